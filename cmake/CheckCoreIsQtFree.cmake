@@ -1,0 +1,18 @@
+# Fails when a core source includes a Qt header. Qt files of a core folder
+# live in a sub-folder named qt/ and are left out.
+set(bad "")
+string(REPLACE "," ";" CORE_DIRS "${CORE_DIRS}")
+foreach(dir ${CORE_DIRS})
+  file(GLOB_RECURSE files ${SOURCE_DIR}/${dir}/*.cpp ${SOURCE_DIR}/${dir}/*.h)
+  foreach(f ${files})
+    if(NOT f MATCHES "/(qt|editors)/")
+      file(STRINGS ${f} qt_lines REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"]Q[A-Za-z]")
+      if(qt_lines)
+        list(APPEND bad "${f}")
+      endif()
+    endif()
+  endforeach()
+endforeach()
+if(bad)
+  message(FATAL_ERROR "Qt include in the core: ${bad}")
+endif()

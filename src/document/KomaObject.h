@@ -1,0 +1,210 @@
+#pragma once
+// KomaObject: what every kind of object on the device screen shares.
+//
+// Model values are device pixels and are stored as the resource text stores
+// them (words as text). The object's place on the canvas is kept in screen
+// units (Left, Top, Width, Height); the two are kept in step by
+// PCTwipsToTolvaPixels, the screen units per device pixel.
+//
+// Refused values are reported by the object itself through the host's message
+// box, under the property's name as title, and the old value stays.
+#include <string>
+#include <vector>
+
+#include "document/TextHelpers.h"
+#include "inspector/PropertyArray.h"
+
+namespace tolva {
+
+class Host;
+class LogSink;
+class ObjectOwner;
+class ctlKOMAForm;
+
+// The groups of a record as the loader parsed them: one entry per group ~F0,
+// ~F1, ..., each the group's values as text.
+using ValueGroup = std::vector<std::string>;
+using GroupList = std::vector<ValueGroup>;
+
+inline constexpr double kDefaultTwipsPerPixel = 36.59;
+inline constexpr int kNotInTable = 65535;
+
+class KomaObject {
+public:
+    virtual ~KomaObject();
+    KomaObject(const KomaObject&) = delete;
+    KomaObject& operator=(const KomaObject&) = delete;
+
+    // --- what kind of object ------------------------------------------------
+    int ScreenType() const { return screenType_; }
+
+    // --- owner ----------------------------------------------------------------
+    void SetOwner(ObjectOwner* owner) { owner_ = owner; }
+    ObjectOwner* Owner() const { return owner_; }
+
+    // --- shared members, in their order of declaration ---------------------
+    bool LinkedToTable() const { return linkedToTable_; }
+    void LinkedToTable(bool value) { linkedToTable_ = value; }
+    bool ResizeOK() const { return resizeOK_; }
+    void ResizeOK(bool value) { resizeOK_ = value; }
+    bool VertResizeOK() const { return vertResizeOK_; }
+    void VertResizeOK(bool value) { vertResizeOK_ = value; }
+    bool HorizResizeOK() const { return horizResizeOK_; }
+    void HorizResizeOK(bool value) { horizResizeOK_ = value; }
+    // While False the object keeps no drawn image.
+    bool AllowRedraw() const { return allowRedraw_; }
+    void AllowRedraw(bool value) { allowRedraw_ = value; }
+
+    // Screen units per device pixel. Only a value above 0 is taken; a good
+    // value re-runs the size logic. The text form takes numeric text only.
+    double PCTwipsToTolvaPixels() const { return twipsPerPixel_; }
+    void PCTwipsToTolvaPixels(double value);
+    void PCTwipsToTolvaPixels(const std::string& text);
+
+    const std::string& KOMAName() const { return name_; }
+    virtual void KOMAName(const std::string& name);
+
+    int KOMAObjectID() const { return objectId_; }
+    virtual void KOMAObjectID(int id);
+
+    long KOMARelatedTableID() const { return relatedTableId_; }
+    virtual void KOMARelatedTableID(long id);
+
+    // The device kind, from the stored word.
+    virtual int KOMAObjectType();
+    // The stored word ("FORM", "CONTROL", "BITMAP", ...).
+    const std::string& KOMAObjectTypeWord() const { return objectTypeWord_; }
+
+    int KOMABoundsX() const { return boundsX_; }
+    virtual void KOMABoundsX(int x);
+    int KOMABoundsY() const { return boundsY_; }
+    virtual void KOMABoundsY(int y);
+    int KOMAWidth() const { return width_; }
+    virtual void KOMAWidth(int width);
+    int KOMAHeight() const { return height_; }
+    virtual void KOMAHeight(int height);
+
+    ctlKOMAForm* ParentForm() const { return parentForm_; }
+    void ParentForm(ctlKOMAForm* form) { parentForm_ = form; }
+
+    int iIndex() const { return index_; }
+    void iIndex(int index) { index_ = index; }
+
+    // --- place on the canvas, screen units ----------------------------------
+    double Left() const { return left_; }
+    void Left(double value) { left_ = value; }
+    double Top() const { return top_; }
+    void Top(double value) { top_ = value; }
+    double Width() const { return canvasWidth_; }
+    void Width(double value);
+    double Height() const { return canvasHeight_; }
+    void Height(double value);
+    // Sets the size in one step, with one resize.
+    void SetCanvasSize(double width, double height);
+
+    bool Visible() const { return visible_; }
+    void Visible(bool value) { visible_ = value; }
+    // 0 brings the object to the front, 1 sends it to the back.
+    void ZOrder(int position = 0);
+    long long StackStamp() const { return stackStamp_; }
+    void SetFocus();
+    bool HasFocus() const { return hasFocus_; }
+    void ClearFocus() { hasFocus_ = false; }
+
+    // --- the contract --------------------------------------------------------
+    // Number of inspector rows of the class.
+    virtual int PropertyRowCount() const = 0;
+    // Fills the array with the current values, one row per property.
+    virtual void GetPropertyList(PropertyArray& rows) = 0;
+    // Applies the array row by row; false when its shape is wrong.
+    virtual bool SetPropertyList(const PropertyArray& rows) = 0;
+    // Appends the object's record to lines; ok is true on success.
+    virtual void ReturnResourceFileText(LineList& lines, bool& ok) = 0;
+    // Applies a loaded record's groups; ok is false when their count or the
+    // count of values in a group is not this class's.
+    virtual void SetFromResText(const GroupList& groups, bool& ok) = 0;
+    // The per-type copy of every model property of other (a same-type
+    // object), ParentForm included. False when it fails.
+    virtual bool CopyModelFrom(const KomaObject& other);
+
+    // --- events from the canvas ---------------------------------------------
+    // A mouse press, move or release on the object (or on a label covering it).
+    virtual void MouseDown(int button, int shift, double x, double y);
+    virtual void MouseMove(int button, int shift, double x, double y);
+    virtual void MouseUp(int button, int shift, double x, double y);
+    // A key went down while the object has the focus; 46 is Delete.
+    virtual void KeyDown(int keyCode, int shift);
+
+protected:
+    KomaObject(int screenType, const std::string& objectTypeWord, int defaultWidth,
+               int defaultHeight);
+
+    Host& host() const;
+    void Log(const std::string& line) const;
+    // A message box through the owner's host; empty title: the application's.
+    void Message(const std::string& text, const std::string& title = "") const;
+
+    // The stored object type word; subclasses repair it as their rules say.
+    void SetObjectTypeWord(const std::string& word) { objectTypeWord_ = word; }
+
+    // Steps 1 to 5 of SetPropertyList, shared by every class: the shape,
+    // the name, X, Y, then the height before the width. False (and nothing
+    // changed) when the shape is wrong.
+    bool ApplySharedPropertyRows(const PropertyArray& rows);
+    // Rows 1 to 5 of GetPropertyList: name, X, Y, width, height.
+    void FillSharedPropertyRows(PropertyArray& rows) const;
+
+    // The tests of the size rows; a class may narrow them.
+    virtual bool IsGoodWidth(int width) const { return width >= 0 && width <= 160; }
+    virtual bool IsGoodHeight(int height) const { return height >= 0 && height <= 160; }
+
+    // Called when the canvas size changed: by default writes KOMAWidth and
+    // KOMAHeight back from the canvas size, then lays the object out.
+    virtual void OnCanvasResize();
+    // Lays the object out again after a change of size, style or text.
+    virtual void LayOut() {}
+
+    // Copies the shared model properties (not the canvas place).
+    void CopySharedModelFrom(const KomaObject& other);
+
+    // Raise events to the owner.
+    void RaiseMoved();
+    void RaiseResized();
+    void RaisePicChanged();
+
+private:
+    int screenType_;
+    ObjectOwner* owner_ = nullptr;
+
+    bool linkedToTable_ = false;
+    bool resizeOK_ = true;
+    bool vertResizeOK_ = true;
+    bool horizResizeOK_ = true;
+    bool allowRedraw_ = true;
+    double twipsPerPixel_ = kDefaultTwipsPerPixel;
+    std::string name_;
+    int objectId_ = 0;
+    long relatedTableId_ = kNotInTable;
+    std::string objectTypeWord_;
+    int boundsX_ = 0;
+    int boundsY_ = 0;
+    int width_ = 0;
+    int height_ = 0;
+    ctlKOMAForm* parentForm_ = nullptr;
+    int index_ = 0;
+
+    double left_ = 0;
+    double top_ = 0;
+    double canvasWidth_ = 0;
+    double canvasHeight_ = 0;
+    bool visible_ = true;
+    bool hasFocus_ = false;
+    long long stackStamp_ = 0;
+};
+
+// IsValidObjectName: a letter or "_" first, then letters, digits and "_".
+// Compared by single-byte code, so accented letters fail. The empty text
+// throws RuntimeFailure: callers hand in non-empty text.
+bool IsValidObjectName(const std::string& name);
+
+}  // namespace tolva

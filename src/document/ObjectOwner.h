@@ -1,0 +1,42 @@
+#pragma once
+// The one small interface through which an object talks upward to whatever
+// holds it (the screen, or a test). An object never knows the registry.
+#include <string>
+
+namespace tolva {
+
+class Host;
+class LogSink;
+class KomaObject;
+
+class ObjectOwner {
+public:
+    virtual ~ObjectOwner() = default;
+
+    virtual Host& OwnerHost() = 0;
+    virtual LogSink& OwnerLog() = 0;
+
+    // The name check of every object: is newName free, given the object's
+    // current (old) name?
+    virtual bool IsNewNameUnique(const std::string& oldName, const std::string& newName) = 0;
+
+    // The id of the object of that name; false leaves id as it was.
+    virtual bool OwnerGetObjectID(const std::string& name, int& id) = 0;
+
+    // Events raised by the object. Mouse coordinates are in screen units
+    // relative to the object; button 1 is the left one.
+    virtual void ObjectMouseDown(KomaObject& object, int button, int shift, double x, double y) = 0;
+    virtual void ObjectMouseMove(KomaObject& object, int button, int shift, double x, double y) = 0;
+    virtual void ObjectMouseUp(KomaObject& object, int button, int shift, double x, double y) = 0;
+    virtual void ObjectSelected(KomaObject& object) = 0;
+    virtual void ObjectDeleted(KomaObject& object) = 0;
+    virtual void ObjectMoved(KomaObject& object, int x, int y) = 0;
+    virtual void ObjectResized(KomaObject& object, int width, int height) = 0;
+    virtual void ObjectPicChanged(KomaObject& object) = 0;
+
+    // Stacking order: a stamp larger than every other for the front, smaller
+    // than every other for the back.
+    virtual long long NextStackStamp(bool toFront) = 0;
+};
+
+}  // namespace tolva

@@ -1,0 +1,120 @@
+#pragma once
+// ctlKOMAForm: the page of the device. It keeps the list of its embedded
+// objects (by name and by reference; it owns none of them), its menus as
+// plain data, its title, style and title-bar bitmap, and the related lists
+// and related checkboxes.
+#include <string>
+#include <vector>
+
+#include "document/KomaObject.h"
+
+namespace tolva {
+
+class ctlKOMAForm : public KomaObject {
+public:
+    static constexpr int kRowCount = 10;
+
+    ctlKOMAForm();
+
+    // --- the form's own properties -----------------------------------------
+    int KOMAFormStyle() const;  // 0 to 3 from the stored word
+    void KOMAFormStyle(int style);
+    const std::string& KOMAFormStyleWord() const { return styleWord_; }
+    int KOMAObjectType() override;
+    const std::string& KOMAFormTitle() const { return title_; }
+    void KOMAFormTitle(const std::string& title);
+    const std::string& KOMAFocusedObject() const { return focusedObject_; }
+    void KOMAFocusedObject(const std::string& name);
+    int KOMABitmapX() const { return bitmapX_; }
+    void KOMABitmapX(int value) { bitmapX_ = value; }
+    int KOMABitmapY() const { return bitmapY_; }
+    void KOMABitmapY(int value) { bitmapY_ = value; }
+    int KOMABitmapWidth() const { return bitmapWidth_; }
+    void KOMABitmapWidth(int value) { bitmapWidth_ = value; }
+    int KOMABitmapHeight() const { return bitmapHeight_; }
+    void KOMABitmapHeight(int value) { bitmapHeight_ = value; }
+    const std::string& KOMABitmapFile() const { return bitmapFile_; }
+    void KOMABitmapFile(const std::string& path);
+    int KOMANumEmbeddedObjects() const { return static_cast<int>(embedded_.size()); }
+    int KOMABitmapDepth() const { return bitmapDepth_; }
+    void KOMABitmapDepth(int depth);
+
+    // --- embedded objects ----------------------------------------------------
+    struct EmbeddedRow {
+        std::string name;
+        std::string typeWord;  // "CONTROL", "STRING", ... or empty
+    };
+    void NotifyEmbeddedObjectNameChanged(const std::string& oldName, const std::string& newName);
+    std::vector<EmbeddedRow> GetEmbeddedObjectList() const { return embedded_; }
+    // Adds a row to both lists; false (and a message) for a form.
+    bool EmbedObject(int type, const std::string& name, KomaObject* object);
+    void RemoveEmbeddedObject(int number);
+    bool NotifyObjectDeleted(const std::string& name);
+    void HideEmbeddedObjects();
+    void ShowEmbeddedObjects();
+    std::vector<KomaObject*> GetEmbeddedObjectReferenceList() const { return references_; }
+    KomaObject* GetFirstEmbeddedObjectReference() const;
+    void SetEmbeddedObjectReferenceList(const std::vector<KomaObject*>& objects);
+    void UpdateReferenceList(const std::string& name, KomaObject* newReference);
+
+    // --- menus -----------------------------------------------------------------
+    struct MenuData {
+        std::string name;
+        int id = 0;
+        std::vector<std::string> items;
+    };
+    void SetMenus(const std::vector<std::vector<std::string>>& itemLists,
+                  const std::vector<std::string>& names);
+    void GetMenus(std::vector<std::vector<std::string>>& itemLists, std::vector<std::string>& names,
+                  std::vector<int>& ids) const;
+    const std::vector<MenuData>& Menus() const { return menus_; }
+    int GetNumMenus() const { return static_cast<int>(menus_.size()); }
+    // Gives the menus the ids from firstId upward, in order.
+    void SetMenuIDs(int firstId);
+
+    // --- related checkboxes and lists -------------------------------------------
+    struct RelatedCheckbox {
+        std::string name;
+        std::string value;
+    };
+    void CheckboxRenamed(const std::string& oldName, const std::string& newName);
+    void SetRelatedCheckboxes(const std::vector<RelatedCheckbox>& rows) { relatedCheckboxes_ = rows; }
+    const std::vector<RelatedCheckbox>& RelatedCheckboxes() const { return relatedCheckboxes_; }
+
+    struct RelatedList {
+        std::string name;
+        std::vector<bool> linked;  // one per row of the related-lists list
+    };
+    const std::vector<RelatedList>& RelatedLists() const { return relatedLists_; }
+    bool GetRelatedListData(const std::string& listName, std::vector<std::string>& names,
+                            std::vector<bool>& linked) const;
+    void SetRelatedListData(const std::string& listName, const std::vector<std::string>& names,
+                            const std::vector<bool>& linked);
+
+    // --- the contract -------------------------------------------------------------
+    int PropertyRowCount() const override { return kRowCount; }
+    void GetPropertyList(PropertyArray& rows) override;
+    bool SetPropertyList(const PropertyArray& rows) override;
+    void ReturnResourceFileText(LineList& lines, bool& ok) override;
+    void SetFromResText(const GroupList& groups, bool& ok) override;
+    bool CopyModelFrom(const KomaObject& other) override;
+
+private:
+    std::string styleWord_ = "NORMAL";
+    std::string title_ = "Form Title";
+    std::string focusedObject_;
+    int bitmapX_ = 7;
+    int bitmapY_ = 3;
+    int bitmapWidth_ = 10;
+    int bitmapHeight_ = 12;
+    std::string bitmapFile_;
+    int bitmapDepth_ = 4;
+
+    std::vector<EmbeddedRow> embedded_;
+    std::vector<KomaObject*> references_;
+    std::vector<MenuData> menus_;
+    std::vector<RelatedCheckbox> relatedCheckboxes_;
+    std::vector<RelatedList> relatedLists_;
+};
+
+}  // namespace tolva
