@@ -112,17 +112,20 @@ public:
     void ClearFocus() { hasFocus_ = false; }
 
     // --- the contract --------------------------------------------------------
-    // Number of inspector rows of the class.
-    virtual int PropertyRowCount() const = 0;
+    // Each kind overrides these with its own rows and record; what stands
+    // here is what every kind shares.
+    // Number of inspector rows of the class (the shared five by default).
+    virtual int PropertyRowCount() const;
     // Fills the array with the current values, one row per property.
-    virtual void GetPropertyList(PropertyArray& rows) = 0;
+    virtual void GetPropertyList(PropertyArray& rows);
     // Applies the array row by row; false when its shape is wrong.
-    virtual bool SetPropertyList(const PropertyArray& rows) = 0;
-    // Appends the object's record to lines; ok is true on success.
-    virtual void ReturnResourceFileText(LineList& lines, bool& ok) = 0;
+    virtual bool SetPropertyList(const PropertyArray& rows);
+    // Appends the object's record to lines; ok is true on success. A kind
+    // with no record of its own yet answers false.
+    virtual void ReturnResourceFileText(LineList& lines, bool& ok);
     // Applies a loaded record's groups; ok is false when their count or the
     // count of values in a group is not this class's.
-    virtual void SetFromResText(const GroupList& groups, bool& ok) = 0;
+    virtual void SetFromResText(const GroupList& groups, bool& ok);
     // The per-type copy of every model property of other (a same-type
     // object), ParentForm included. False when it fails.
     virtual bool CopyModelFrom(const KomaObject& other);
@@ -154,6 +157,10 @@ protected:
     // Rows 1 to 5 of GetPropertyList: name, X, Y, width, height.
     void FillSharedPropertyRows(PropertyArray& rows) const;
 
+    // A good, changed height or width row: by default the resized event is
+    // raised with the new value and the owner sets the size in answer.
+    virtual void ApplyRowHeight(int height);
+    virtual void ApplyRowWidth(int width);
     // The tests of the size rows; a class may narrow them.
     virtual bool IsGoodWidth(int width) const { return width >= 0 && width <= 160; }
     virtual bool IsGoodHeight(int height) const { return height >= 0 && height <= 160; }

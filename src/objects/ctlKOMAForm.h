@@ -21,6 +21,8 @@ public:
     void KOMAFormStyle(int style);
     const std::string& KOMAFormStyleWord() const { return styleWord_; }
     int KOMAObjectType() override;
+    void KOMAName(const std::string& name) override;
+    using KomaObject::KOMAName;
     const std::string& KOMAFormTitle() const { return title_; }
     void KOMAFormTitle(const std::string& title);
     const std::string& KOMAFocusedObject() const { return focusedObject_; }
@@ -38,6 +40,15 @@ public:
     int KOMANumEmbeddedObjects() const { return static_cast<int>(embedded_.size()); }
     int KOMABitmapDepth() const { return bitmapDepth_; }
     void KOMABitmapDepth(int depth);
+
+    // The picture of the title bar as loaded: its size in pixels.
+    bool HasPicture() const { return hasPicture_; }
+    int PictureWidth() const { return pictureWidth_; }
+    int PictureHeight() const { return pictureHeight_; }
+    // The popup's "Set Form Bitmap..." (also the bitmap row's button) and
+    // "Remove Form Bitmap".
+    void ChooseFormBitmap();
+    void RemoveFormBitmap();
 
     // --- embedded objects ----------------------------------------------------
     struct EmbeddedRow {
@@ -99,6 +110,11 @@ public:
     void SetFromResText(const GroupList& groups, bool& ok) override;
     bool CopyModelFrom(const KomaObject& other) override;
 
+protected:
+    // A size row sets the size on the canvas first, then raises resized.
+    void ApplyRowHeight(int height) override;
+    void ApplyRowWidth(int width) override;
+
 private:
     std::string styleWord_ = "NORMAL";
     std::string title_ = "Form Title";
@@ -109,6 +125,9 @@ private:
     int bitmapHeight_ = 12;
     std::string bitmapFile_;
     int bitmapDepth_ = 4;
+    bool hasPicture_ = false;
+    int pictureWidth_ = 0;
+    int pictureHeight_ = 0;
 
     std::vector<EmbeddedRow> embedded_;
     std::vector<KomaObject*> references_;

@@ -1,0 +1,360 @@
+#include "document/KomaObject.h"
+
+#include <cmath>
+#include <limits>
+
+#include "document/Host.h"
+#include "document/LogSink.h"
+#include "document/Numbers.h"
+#include "document/ObjectOwner.h"
+#include "document/ObjectTypes.h"
+#include "document/PropertyLabels.h"
+#include "document/RuntimeFailure.h"
+#include "document/StringTable.h"
+
+namespace tolva {
+
+namespace {
+
+// A real rounded half to even and held to the int range, so that a setter
+// sees an out-of-range value and refuses it with its own message.
+int RoundToIntSaturating(double value) {
+    const double rounded = RoundHalfEven(value);
+    if (std::isnan(rounded)) return 0;
+    if (rounded > std::numeric_limits<int>::max()) return std::numeric_limits<int>::max();
+    if (rounded < std::numeric_limits<int>::min()) return std::numeric_limits<int>::min();
+    return static_cast<int>(rounded);
+}
+
+}  // namespace
+
+bool IsValidObjectName(const std::string& name) {
+    if (name.empty()) throw RuntimeFailure("Invalid procedure call: an empty object name");
+    auto isLetter = [](unsigned char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
+    auto isDigit = [](unsigned char c) { return c >= '0' && c <= '9'; };
+    const unsigned char first = static_cast<unsigned char>(name[0]);
+    if (!isLetter(first) && first != '_') return false;
+    for (size_t i = 1; i < name.size(); ++i) {
+        const unsigned char c = static_cast<unsigned char>(name[i]);
+        if (!isLetter(c) && !isDigit(c) && c != '_') return false;
+    }
+    return true;
+}
+
+KomaObject::KomaObject(int screenType, const std::string& objectTypeWord, int defaultWidth,
+                       int defaultHeight)
+    : screenType_(screenType),
+      name_(ScreenTypeNamePrefix(screenType)),
+      objectTypeWord_(objectTypeWord),
+      width_(defaultWidth),
+      height_(defaultHeight),
+      canvasWidth_(defaultWidth * kDefaultTwipsPerPixel),
+      canvasHeight_(defaultHeight * kDefaultTwipsPerPixel) {}
+
+KomaObject::~KomaObject() = default;
+
+// --- services -----------------------------------------------------------------
+
+Host& KomaObject::host() const {
+    if (!owner_) throw RuntimeFailure("Object has no owner: " + name_);
+    return owner_->OwnerHost();
+}
+
+void KomaObject::Log(const std::string& line) const {
+    if (owner_) owner_->OwnerLog().AddLogLine(line);
+}
+
+void KomaObject::Message(const std::string& text, const std::string& title) const {
+    if (owner_) owner_->OwnerHost().MessageBox(text, title, MessageButtons::OK);
+}
+
+// --- shared members -------------------------------------------------------------
+
+void KomaObject::PCTwipsToTolvaPixels(double value) {
+    if (!(value > 0) || !std::isfinite(value)) {
+        Message("Invalid PCTwipsToTolvaPixels", "PCTwipsToTolvaPixels");
+        return;
+    }
+    twipsPerPixel_ = value;
+    // Size the object on the canvas again from its device size; the resize
+    // writes the device size back and lays the object out.
+    SetCanvasSize(width_ * twipsPerPixel_, height_ * twipsPerPixel_);
+}
+
+void KomaObject::PCTwipsToTolvaPixels(const std::string& text) {
+    if (!IsNumeric(text)) {
+        Message("Invalid PCTwipsToTolvaPixels", "PCTwipsToTolvaPixels");
+        return;
+    }
+    PCTwipsToTolvaPixels(ToReal(text));
+}
+
+void KomaObject::KOMAName(const std::string& name) { name_ = name; }
+
+void KomaObject::KOMAObjectID(int id) {
+    if (id < 0) {
+        Message("Invalid value", "KOMAObjectID");
+        return;
+    }
+    objectId_ = id;
+}
+
+void KomaObject::KOMARelatedTableID(long id) {
+    if (id < 0) {
+        Message("Invalid value", "KOMARelatedTableID");
+        return;
+    }
+    relatedTableId_ = id;
+}
+
+int KomaObject::KOMAObjectType() {
+    // The kind number of this class's own word; a word "0" is repaired.
+    const int own = [&] {
+        switch (screenType_) {
+            case type::Form: return kind::Form;
+            case type::Button:
+            case type::RepeatButton:
+            case type::PushButton:
+            case type::Checkbox:
+            case type::PopupTrigger: return kind::Control;
+            case type::Bitmap: return kind::Bitmap;
+            case type::Field: return kind::Field;
+            case type::Line: return kind::Line;
+            case type::List: return kind::List;
+            case type::Menu: return kind::Menu;
+            case type::Scrollbar: return kind::Scrollbar;
+            case type::String: return kind::String;
+            case type::Table: return kind::Table;
+            case type::Textbox: return kind::Textbox;
+            case type::SchedulerLine: return kind::SchedulerLine;
+            default: return 0;
+        }
+    }();
+    const std::string classWord = [&]() -> std::string {
+        switch (own) {
+            case kind::Form: return "FORM";
+            case kind::Control: return "CONTROL";
+            default: return ScreenTypeWord(screenType_);
+        }
+    }();
+    if (objectTypeWord_ == classWord) return own;
+    if (objectTypeWord_ == "0") {
+        Message("Invalid object type", "KOMAObjectType");
+        objectTypeWord_ = classWord;
+        return own;
+    }
+    return 0;
+}
+
+void KomaObject::KOMABoundsX(int x) {
+    if (x < 0 || x > 159) {
+        Message("Invalid value", "KOMABoundsX");
+        return;
+    }
+    boundsX_ = x;
+}
+
+void KomaObject::KOMABoundsY(int y) {
+    if (y < 0 || y > 159) {
+        Message("Invalid value", "KOMABoundsY");
+        return;
+    }
+    boundsY_ = y;
+}
+
+void KomaObject::KOMAWidth(int width) {
+    if (width < 0 || width > 160) {
+        Message("Invalid value");
+        return;
+    }
+    width_ = width;
+}
+
+void KomaObject::KOMAHeight(int height) {
+    if (height < 0 || height > 160) {
+        Message("Invalid value");
+        return;
+    }
+    height_ = height;
+}
+
+// --- canvas --------------------------------------------------------------------
+
+void KomaObject::Width(double value) {
+    if (value == canvasWidth_) return;
+    canvasWidth_ = value;
+    OnCanvasResize();
+}
+
+void KomaObject::Height(double value) {
+    if (value == canvasHeight_) return;
+    canvasHeight_ = value;
+    OnCanvasResize();
+}
+
+void KomaObject::SetCanvasSize(double width, double height) {
+    canvasWidth_ = width;
+    canvasHeight_ = height;
+    OnCanvasResize();
+}
+
+void KomaObject::ZOrder(int position) {
+    const bool toFront = position == 0;
+    if (owner_) {
+        stackStamp_ = owner_->NextStackStamp(toFront);
+    } else {
+        stackStamp_ += toFront ? 1 : -1;
+    }
+}
+
+void KomaObject::SetFocus() { hasFocus_ = true; }
+
+void KomaObject::OnCanvasResize() {
+    if (twipsPerPixel_ != 0) {
+        KOMAWidth(RoundToIntSaturating(canvasWidth_ / twipsPerPixel_));
+        KOMAHeight(RoundToIntSaturating(canvasHeight_ / twipsPerPixel_));
+    }
+    LayOut();
+}
+
+// --- contract: the shared rows ------------------------------------------------------
+
+int KomaObject::PropertyRowCount() const { return 5; }
+
+void KomaObject::GetPropertyList(PropertyArray& rows) {
+    rows = PropertyArray(PropertyRowCount());
+    FillSharedPropertyRows(rows);
+}
+
+bool KomaObject::SetPropertyList(const PropertyArray& rows) { return ApplySharedPropertyRows(rows); }
+
+void KomaObject::ReturnResourceFileText(LineList&, bool& ok) { ok = false; }
+
+void KomaObject::SetFromResText(const GroupList&, bool& ok) { ok = false; }
+
+void KomaObject::FillSharedPropertyRows(PropertyArray& rows) const {
+    rows.SetRow(1, PropertyLabel(101), rowkind::Text, name_);
+    rows.SetRow(2, PropertyLabel(102), rowkind::Text, boundsX_);
+    rows.SetRow(3, PropertyLabel(103), rowkind::Text, boundsY_);
+    rows.SetRow(4, PropertyLabel(105), rowkind::Text, width_);
+    rows.SetRow(5, PropertyLabel(104), rowkind::Text, height_);
+}
+
+bool KomaObject::ApplySharedPropertyRows(const PropertyArray& rows) {
+    // 1. The shape.
+    if (rows.Columns() != 3 || rows.Rows() != PropertyRowCount()) return false;
+
+    // 2. The name: it must pass the name rule and differ; then it must be free.
+    const std::string newName = rows.Value(1).Text();
+    if (!newName.empty() && IsValidObjectName(newName) && newName != name_) {
+        if (!owner_ || owner_->IsNewNameUnique(name_, newName)) {
+            KOMAName(newName);
+        } else {
+            Message(LoadResString(msg::NameMustBeUnique));
+        }
+    }
+
+    // 3. and 4. The position: numeric text that differs goes to the setter, and
+    // the moved event follows with the values now held, even when refused.
+    const std::string xText = rows.Value(2).Text();
+    if (IsNumeric(xText)) {
+        const int x = ToInt16(xText);
+        if (x != boundsX_) {
+            KOMABoundsX(x);
+            RaiseMoved();
+        }
+    }
+    const std::string yText = rows.Value(3).Text();
+    if (IsNumeric(yText)) {
+        const int y = ToInt16(yText);
+        if (y != boundsY_) {
+            KOMABoundsY(y);
+            RaiseMoved();
+        }
+    }
+
+    // 5. The height before the width. The text is converted first (text that
+    // is no number is a run-time failure of the whole call), then tested.
+    const int height = ToInt16(rows.Value(5).Text());
+    if (height != height_) {
+        if (IsGoodHeight(height)) {
+            ApplyRowHeight(height);
+        } else {
+            Message("Invalid height value", "KOMAHeight");
+        }
+    }
+    const int width = ToInt16(rows.Value(4).Text());
+    if (width != width_) {
+        if (IsGoodWidth(width)) {
+            ApplyRowWidth(width);
+        } else {
+            Message("Invalid width value", "KOMAWidth");
+        }
+    }
+    return true;
+}
+
+void KomaObject::ApplyRowHeight(int height) {
+    if (owner_) owner_->ObjectResized(*this, width_, height);
+}
+
+void KomaObject::ApplyRowWidth(int width) {
+    if (owner_) owner_->ObjectResized(*this, width, height_);
+}
+
+// --- copy ----------------------------------------------------------------------------
+
+bool KomaObject::CopyModelFrom(const KomaObject& other) {
+    if (other.screenType_ != screenType_) return false;
+    CopySharedModelFrom(other);
+    return true;
+}
+
+void KomaObject::CopySharedModelFrom(const KomaObject& other) {
+    linkedToTable_ = other.linkedToTable_;
+    resizeOK_ = other.resizeOK_;
+    vertResizeOK_ = other.vertResizeOK_;
+    horizResizeOK_ = other.horizResizeOK_;
+    twipsPerPixel_ = other.twipsPerPixel_;
+    name_ = other.name_;
+    objectId_ = other.objectId_;
+    relatedTableId_ = other.relatedTableId_;
+    objectTypeWord_ = other.objectTypeWord_;
+    boundsX_ = other.boundsX_;
+    boundsY_ = other.boundsY_;
+    width_ = other.width_;
+    height_ = other.height_;
+    parentForm_ = other.parentForm_;
+}
+
+// --- events ----------------------------------------------------------------------------
+
+void KomaObject::MouseDown(int button, int shift, double x, double y) {
+    if (owner_) owner_->ObjectMouseDown(*this, button, shift, x, y);
+}
+
+void KomaObject::MouseMove(int button, int shift, double x, double y) {
+    if (owner_) owner_->ObjectMouseMove(*this, button, shift, x, y);
+}
+
+void KomaObject::MouseUp(int button, int shift, double x, double y) {
+    if (owner_) owner_->ObjectMouseUp(*this, button, shift, x, y);
+}
+
+void KomaObject::KeyDown(int keyCode, int) {
+    if (keyCode == 46 && owner_) owner_->ObjectDeleted(*this);
+}
+
+void KomaObject::RaiseMoved() {
+    if (owner_) owner_->ObjectMoved(*this, boundsX_, boundsY_);
+}
+
+void KomaObject::RaiseResized() {
+    if (owner_) owner_->ObjectResized(*this, width_, height_);
+}
+
+void KomaObject::RaisePicChanged() {
+    if (owner_) owner_->ObjectPicChanged(*this);
+}
+
+}  // namespace tolva

@@ -1,0 +1,12 @@
+#pragma once
+// ctlKOMASchedulerLine: a scheduler line.
+#include "document/KomaObject.h"
+
+namespace tolva {
+
+class ctlKOMASchedulerLine : public KomaObject {
+public:
+    ctlKOMASchedulerLine();
+};
+
+}  // namespace tolva

@@ -1,0 +1,12 @@
+#pragma once
+// ctlKOMAScrollbar: a scroll bar.
+#include "document/KomaObject.h"
+
+namespace tolva {
+
+class ctlKOMAScrollbar : public KomaObject {
+public:
+    ctlKOMAScrollbar();
+};
+
+}  // namespace tolva
