@@ -1,0 +1,51 @@
+#pragma once
+// QtHost: the desktop's services for the core, made of Qt's message boxes,
+// file dialogs, settings, image loader, popup menus, cursors and desktop
+// services. Text crosses here between Unicode and the core's Windows-1252.
+#include <QLocale>
+#include <QPointer>
+#include <QWidget>
+
+#include "document/Host.h"
+
+namespace tolva {
+
+class QtHost : public Host {
+public:
+    QtHost() = default;
+
+    // The window that owns the dialogs; without one, the active window.
+    void SetParentWidget(QWidget* parent) { parent_ = parent; }
+
+    MessageAnswer MessageBox(const std::string& text, const std::string& title,
+                             MessageButtons buttons) override;
+    std::optional<std::string> ChooseOpenFile(const FileChooserRequest& request) override;
+    std::optional<std::string> ChooseSaveFile(const FileChooserRequest& request) override;
+    std::string GetSetting(const std::string& application, const std::string& section,
+                           const std::string& key, const std::string& defaultValue) override;
+    void SaveSetting(const std::string& application, const std::string& section,
+                     const std::string& key, const std::string& value) override;
+    std::optional<PictureSize> LoadPicture(const std::string& path) override;
+    std::optional<int> PopupMenu(const std::string& title,
+                                 const std::vector<std::string>& entries) override;
+    void SetCursor(CursorShape shape) override;
+    void OpenInViewer(const std::string& path) override;
+    void OpenMail(const std::string& address, const std::string& workingDirectory) override;
+    bool FileExists(const std::string& path) override;
+    std::string ProgramDirectory() override;
+    int LanguageId() override;
+
+    // The Windows language id of a language: English 1033, German 1031,
+    // Japanese 1041; any other gives English.
+    static int LanguageIdFor(QLocale::Language language);
+    // The organisation under which the settings are kept.
+    static constexpr const char* kSettingsOrganisation = "Tolva";
+
+private:
+    QWidget* DialogParent() const;
+    std::optional<std::string> ChooseFile(const FileChooserRequest& request, bool save);
+
+    QPointer<QWidget> parent_;
+};
+
+}  // namespace tolva

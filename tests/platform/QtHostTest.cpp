@@ -1,0 +1,237 @@
+// The desktop services as Qt gives them.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QImage>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <functional>
+
+#include "platform/Cp1252.h"
+#include "platform/QtHost.h"
+
+namespace tolva {
+namespace {
+
+// Runs the check on the next modal window once it is up.
+void OnNextModal(std::function<void(QWidget*)> check) {
+    auto attempt = std::make_shared<std::function<void()>>();
+    *attempt = [check, attempt] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (!modal) {
+            QTimer::singleShot(10, *attempt);
+            return;
+        }
+        check(modal);
+    };
+    QTimer::singleShot(0, *attempt);
+}
+
+TEST(QtHost, MessageBoxWithEmptyTitleShowsTheApplicationsTitle) {
+    QtHost host;
+    QString title, text;
+    OnNextModal([&](QWidget* w) {
+        auto* box = qobject_cast<QMessageBox*>(w);
+        ASSERT_NE(box, nullptr);
+        title = box->windowTitle();
+        text = box->text();
+        box->button(QMessageBox::Ok)->click();
+    });
+    EXPECT_EQ(host.MessageBox("Object already embedded in a form.", "", MessageButtons::OK),
+              MessageAnswer::OK);
+    EXPECT_EQ(title, QStringLiteral("Tolva Resource Editor"));
+    EXPECT_EQ(text, QStringLiteral("Object already embedded in a form."));
+}
+
+TEST(QtHost, MessageBoxKeepsTextAndTitleExactly) {
+    QtHost host;
+    QString title, text;
+    OnNextModal([&](QWidget* w) {
+        auto* box = qobject_cast<QMessageBox*>(w);
+        ASSERT_NE(box, nullptr);
+        title = box->windowTitle();
+        text = box->text();
+        box->button(QMessageBox::Ok)->click();
+    });
+    host.MessageBox("Form embedded in form.  Should not have occured",
+                    "DeleteAllEmbededObjectsFromForm", MessageButtons::OK);
+    EXPECT_EQ(title, QStringLiteral("DeleteAllEmbededObjectsFromForm"));
+    EXPECT_EQ(text, QStringLiteral("Form embedded in form.  Should not have occured"));
+}
+
+TEST(QtHost, YesNoBoxHasTwoButtonsAndGivesTheAnswer) {
+    QtHost host;
+    QMessageBox::StandardButtons buttons;
+    OnNextModal([&](QWidget* w) {
+        auto* box = qobject_cast<QMessageBox*>(w);
+        ASSERT_NE(box, nullptr);
+        buttons = box->standardButtons();
+        box->button(QMessageBox::No)->click();
+    });
+    EXPECT_EQ(host.MessageBox("Sure?", "Confirm", MessageButtons::YesNo), MessageAnswer::No);
+    EXPECT_EQ(buttons, QMessageBox::Yes | QMessageBox::No);
+}
+
+TEST(QtHost, YesNoCancelBoxGivesCancel) {
+    QtHost host;
+    QMessageBox::StandardButtons buttons;
+    OnNextModal([&](QWidget* w) {
+        auto* box = qobject_cast<QMessageBox*>(w);
+        ASSERT_NE(box, nullptr);
+        buttons = box->standardButtons();
+        box->button(QMessageBox::Cancel)->click();
+    });
+    EXPECT_EQ(host.MessageBox("Save?", "Quit", MessageButtons::YesNoCancel),
+              MessageAnswer::Cancel);
+    EXPECT_EQ(buttons, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+}
+
+TEST(QtHost, MessageTextIsConvertedFromTheCodePage) {
+    QtHost host;
+    QString text;
+    OnNextModal([&](QWidget* w) {
+        auto* box = qobject_cast<QMessageBox*>(w);
+        ASSERT_NE(box, nullptr);
+        text = box->text();
+        box->button(QMessageBox::Ok)->click();
+    });
+    host.MessageBox("Gr\xFC\xDF" "e \x80", "t", MessageButtons::OK);
+    EXPECT_EQ(text, QString::fromUtf8("Gr\xC3\xBC\xC3\x9F" "e \xE2\x82\xAC"));
+}
+
+TEST(QtHost, SaveChooserUsesFilterAndDefaultSuffix) {
+    QTemporaryDir dir;
+    QtHost host;
+    QStringList filters;
+    QString suffix;
+    const QString target = dir.path() + "/design.txt";
+    OnNextModal([&](QWidget* w) {
+        auto* dialog = qobject_cast<QFileDialog*>(w);
+        ASSERT_NE(dialog, nullptr);
+        filters = dialog->nameFilters();
+        suffix = dialog->defaultSuffix();
+        dialog->selectFile(target);
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    const auto chosen =
+        host.ChooseSaveFile({"", "*.txt", "Resource Files (*.txt)|*.txt|", ""});
+    EXPECT_EQ(filters, QStringList{QStringLiteral("Resource Files (*.txt)")});
+    EXPECT_EQ(suffix, QStringLiteral("txt"));
+    ASSERT_TRUE(chosen.has_value());
+    EXPECT_EQ(FromLocalPath(*chosen), target);
+}
+
+TEST(QtHost, CancelledChooserGivesNothing) {
+    QtHost host;
+    OnNextModal([&](QWidget* w) {
+        auto* dialog = qobject_cast<QFileDialog*>(w);
+        ASSERT_NE(dialog, nullptr);
+        dialog->reject();
+    });
+    EXPECT_FALSE(host.ChooseOpenFile({"", "*.h", "Header Files (*.h)|*.h|", ""}).has_value());
+}
+
+class QtHostSettings : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(dir_.isValid());
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, dir_.path());
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, dir_.path());
+    }
+    QTemporaryDir dir_;
+};
+
+TEST_F(QtHostSettings, MissingKeyGivesTheDefault) {
+    QtHost host;
+    EXPECT_EQ(host.GetSetting("TolvaDesignerTest", "Settings", "GridInterval", "55"), "55");
+}
+
+TEST_F(QtHostSettings, SavedValueIsReadBack) {
+    QtHost host;
+    host.SaveSetting("TolvaDesignerTest", "Settings", "ShowGrid", "0");
+    EXPECT_EQ(host.GetSetting("TolvaDesignerTest", "Settings", "ShowGrid", "1"), "0");
+    // Sections keep their keys apart.
+    EXPECT_EQ(host.GetSetting("TolvaDesignerTest", "Other", "ShowGrid", "1"), "1");
+}
+
+TEST(QtHost, LoadPictureGivesTheBitmapsSize) {
+    QTemporaryDir dir;
+    const QString path = dir.path() + "/pic.bmp";
+    QImage image(23, 11, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    ASSERT_TRUE(image.save(path, "BMP"));
+    QtHost host;
+    const auto size = host.LoadPicture(ToLocalPath(path));
+    ASSERT_TRUE(size.has_value());
+    EXPECT_EQ(size->width, 23);
+    EXPECT_EQ(size->height, 11);
+}
+
+TEST(QtHost, LoadPictureOfBrokenOrMissingFileFails) {
+    QTemporaryDir dir;
+    const QString path = dir.path() + "/broken.bmp";
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("BM not a picture");
+    file.close();
+    QtHost host;
+    EXPECT_FALSE(host.LoadPicture(ToLocalPath(path)).has_value());
+    EXPECT_FALSE(host.LoadPicture(ToLocalPath(dir.path() + "/none.bmp")).has_value());
+    EXPECT_FALSE(host.LoadPicture("").has_value());
+}
+
+TEST(QtHost, FileExistsOnlyForFiles) {
+    QTemporaryDir dir;
+    const QString path = dir.path() + "/a.txt";
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    QtHost host;
+    EXPECT_TRUE(host.FileExists(ToLocalPath(path)));
+    EXPECT_FALSE(host.FileExists(ToLocalPath(dir.path() + "/b.txt")));
+    EXPECT_FALSE(host.FileExists(ToLocalPath(dir.path())));
+    EXPECT_FALSE(host.FileExists(""));
+}
+
+TEST(QtHost, ProgramDirectoryIsTheApplicationsDirectory) {
+    QtHost host;
+    EXPECT_EQ(FromLocalPath(host.ProgramDirectory()), QCoreApplication::applicationDirPath());
+}
+
+TEST(QtHost, LanguageIds) {
+    EXPECT_EQ(QtHost::LanguageIdFor(QLocale::English), 1033);
+    EXPECT_EQ(QtHost::LanguageIdFor(QLocale::German), 1031);
+    EXPECT_EQ(QtHost::LanguageIdFor(QLocale::Japanese), 1041);
+    EXPECT_EQ(QtHost::LanguageIdFor(QLocale::French), 1033);
+}
+
+TEST(QtHost, LanguageIdFollowsTheDefaultLocale) {
+    const QLocale saved;
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    QtHost host;
+    EXPECT_EQ(host.LanguageId(), 1031);
+    QLocale::setDefault(QLocale(QLocale::Japanese, QLocale::Japan));
+    EXPECT_EQ(host.LanguageId(), 1041);
+    QLocale::setDefault(saved);
+}
+
+TEST(QtHost, CursorShapesAndTheArrow) {
+    QtHost host;
+    host.SetCursor(CursorShape::Hourglass);
+    ASSERT_NE(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    host.SetCursor(CursorShape::Cross);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::CrossCursor);
+    host.SetCursor(CursorShape::SizeWE);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
+    host.SetCursor(CursorShape::Arrow);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+}  // namespace
+}  // namespace tolva
