@@ -144,7 +144,9 @@ bool IsShortName(const std::string& name) {
 }
 
 std::string ShortPathName(const std::string& path) {
-    if (path.empty()) return "";
+    // A path with a NUL byte names no file: the system would read only its
+    // first part.
+    if (path.empty() || path.find('\0') != std::string::npos) return "";
 
     // The path as this host's file system reads it.
     std::string hostPath = path;

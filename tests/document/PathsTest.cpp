@@ -173,6 +173,16 @@ TEST_F(ShortPathTest, MissingPathGivesEmptyText) {
 
 TEST_F(ShortPathTest, EmptyPathGivesEmptyText) { EXPECT_EQ(ShortPathName(""), ""); }
 
+TEST_F(ShortPathTest, PathWithNulGivesEmptyText) {
+    MakeFile("PICS/LOGO.BMP");
+    EXPECT_EQ(ShortPathName(std::string("PICS\0X", 6)), "");
+    EXPECT_FALSE(IsShortPath(std::string("PICS\0X", 6)));
+}
+
+TEST_F(ShortPathTest, OverlongPathGivesEmptyText) {
+    EXPECT_EQ(ShortPathName(std::string(10000, 'A')), "");
+}
+
 TEST_F(ShortPathTest, DotsAndDotDotsStay) {
     MakeFile("PICS/LOGO.BMP");
     fs::create_directory("OTHER");
