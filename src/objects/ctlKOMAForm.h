@@ -106,8 +106,6 @@ public:
     int PropertyRowCount() const override { return kRowCount; }
     void GetPropertyList(PropertyArray& rows) override;
     bool SetPropertyList(const PropertyArray& rows) override;
-    void ReturnResourceFileText(LineList& lines, bool& ok) override;
-    void SetFromResText(const GroupList& groups, bool& ok) override;
     bool CopyModelFrom(const KomaObject& other) override;
 
 protected:

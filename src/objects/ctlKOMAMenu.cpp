@@ -4,6 +4,9 @@
 
 namespace tolva {
 
-ctlKOMAMenu::ctlKOMAMenu() : KomaObject(type::Menu, "MENU", 24, 12) {}
+ctlKOMAMenu::ctlKOMAMenu() : KomaObject(type::Menu, "MENU", 24, 12) {
+    // Menus are never named by the screen; a new one starts with the bare prefix.
+    KOMAName("MENU_");
+}
 
 }  // namespace tolva
