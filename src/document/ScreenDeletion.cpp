@@ -8,7 +8,11 @@
 
 namespace tolva {
 
-bool ctlTolvaScreen::DeleteObject(int screenType, const std::string& name, bool notifyParent) {
+bool ctlTolvaScreen::DeleteObject(int screenType, const std::string& objectName,
+                                  bool notifyParent) {
+    // A copy: the caller's text may be the name of the very object that goes.
+    const std::string name = objectName;
+
     // 1.
     int index = 0;
     KomaObject* deleted = FindObject(screenType, name, &index);
