@@ -8,6 +8,7 @@
 #include "document/ScreenEvents.h"
 #include "document/ScreenFocus.h"
 #include "document/ScreenUnits.h"
+#include "document/StringTable.h"
 #include "document/ctlTolvaScreen.h"
 #include "objects/ctlKOMAForm.h"
 
@@ -28,8 +29,8 @@ std::string LowestFreeName(ctlTolvaScreen& screen, const std::string& prefix) {
 bool ctlTolvaScreen::CreateObject(int screenType) {
     // 1. Everything but a form needs a form to stand on.
     if (currentDesignForm_.empty() && screenType != type::Form) {
-        host_.MessageBox("You must draw a form before you can draw other controls",
-                         "Couldn't Create Object");
+        host_.MessageBox(LoadResString(msg::DrawFormFirst),
+                         LoadResString(msg::CouldNotCreateObject));
         return false;
     }
 

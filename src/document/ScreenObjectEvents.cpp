@@ -4,6 +4,7 @@
 #include "document/Host.h"
 #include "document/ScreenEvents.h"
 #include "document/ScreenUnits.h"
+#include "document/StringTable.h"
 #include "document/ctlTolvaScreen.h"
 
 namespace tolva {
@@ -39,8 +40,8 @@ void ctlTolvaScreen::ObjectDeleted(KomaObject& object) {
     const std::string name = object.KOMAName();
     if (object.ScreenType() == type::Form) {
         const MessageAnswer answer =
-            host_.MessageBox("Are you sure you want to delete this form and all embedded objects?",
-                             "Confirm Form Delete", MessageButtons::YesNo);
+            host_.MessageBox(LoadResString(msg::ConfirmFormDelete),
+                             LoadResString(msg::ConfirmFormDeleteTitle), MessageButtons::YesNo);
         if (answer == MessageAnswer::Yes) DeleteObject(type::Form, name);
         return;
     }
