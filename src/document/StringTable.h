@@ -13,9 +13,11 @@ namespace tolva {
 
 class StringTable {
 public:
-    // Loads the table from a file; false when it cannot be read.
+    // Loads the table from a file, replacing what it held; false (and the
+    // table unchanged) when the file cannot be read.
     bool LoadFromFile(const std::string& path);
-    // Loads the table from text in the file's form.
+    // Loads the table from text in the file's form, replacing what it held.
+    // Lines not of that form are passed over. The language stays.
     void LoadFromText(const std::string& text);
 
     void SetLanguage(int languageId) { language_ = languageId; }
@@ -25,7 +27,8 @@ public:
     std::string Get(int number) const;
     bool Has(int language, int number) const;
 
-    // The table of the program, filled at start-up (and by tests).
+    // The table of the program. On first use it reads "Strings.txt" beside the
+    // running program; the start-up may load it again and sets the language.
     static StringTable& Shared();
 
 private:

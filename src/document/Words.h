@@ -41,7 +41,8 @@ int BaseLineFromWord(const std::string& word);
 // Fonts: "SMALL_FONT" 0, "MEDIUM_FONT" 1.
 int FontFromWord(const std::string& word);
 std::string WordFromFont(int number);
-// The screen font of a font number: "TolvaSmall" or "TolvaMedium".
+// The screen font of a font number: "TolvaSmall" or "TolvaMedium"; empty for
+// any other number.
 std::string ScreenFontName(int number);
 
 // Object-type words, compared exactly with no change of case: "BUTTON" 0 ...
