@@ -5,7 +5,9 @@
 
 namespace tolva {
 
-bool ctlTolvaScreen::HideForm(const std::string& formName) {
+bool ctlTolvaScreen::HideForm(const std::string& name) {
+    // A copy: the caller may hand in CurrentDesignForm itself, emptied here.
+    const std::string formName = name;
     auto* form = static_cast<ctlKOMAForm*>(FindObject(type::Form, formName));
     if (!form) return false;
     form->HideEmbeddedObjects();

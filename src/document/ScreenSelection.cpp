@@ -4,7 +4,9 @@
 
 namespace tolva {
 
-bool ctlTolvaScreen::SelectObject(int screenType, const std::string& name, KomaObject* ref) {
+bool ctlTolvaScreen::SelectObject(int screenType, const std::string& objectName, KomaObject* ref) {
+    // A copy: the caller may hand in SelectedObjectName itself.
+    const std::string name = objectName;
     // 1. Nothing to clear.
     if (screenType == type::None && selectedObjectType_ == type::None) return false;
 

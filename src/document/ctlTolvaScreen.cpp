@@ -136,8 +136,11 @@ bool ctlTolvaScreen::GetObjectPropertiesList(PropertyArray& rows, int screenType
     return true;
 }
 
-bool ctlTolvaScreen::NotifyObjectOfPropertyChange(int screenType, const std::string& name,
+bool ctlTolvaScreen::NotifyObjectOfPropertyChange(int screenType, const std::string& objectName,
                                                   const PropertyArray& rows) {
+    // A copy: the caller may hand in SelectedObjectName or CurrentDesignForm
+    // itself, which follow the new name below.
+    const std::string name = objectName;
     KomaObject* object = FindObject(screenType, name);
     if (!object) return false;
 
@@ -161,7 +164,8 @@ bool ctlTolvaScreen::NotifyObjectOfPropertyChange(int screenType, const std::str
     if (screenType != type::Form && object->KOMAName() != name && object->ParentForm())
         object->ParentForm()->NotifyEmbeddedObjectNameChanged(name, object->KOMAName());
 
-    if (screenMode_ != ModeLoading && events_) events_->ChangedObject(object->KOMAName(), screenType);
+    if (screenMode_ != ModeLoading && events_)
+        events_->ChangedObject(object->KOMAName(), screenType);
     return true;
 }
 

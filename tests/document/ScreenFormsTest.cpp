@@ -81,6 +81,13 @@ TEST_F(ScreenForms, HidingAFormHidesItsObjects) {
     EXPECT_TRUE(screen.VisibleObjectsInStackingOrder().empty());
 }
 
+TEST_F(ScreenForms, HidingTheFormOnShowByItsOwnField) {
+    ASSERT_TRUE(DrawForm());
+    ClearRecords();
+    EXPECT_TRUE(screen.HideForm(screen.CurrentDesignForm()));
+    EXPECT_EQ(log.lines, (std::vector<std::string>{"Form hidden: FORM_1"}));
+}
+
 TEST_F(ScreenForms, ShowingAFormPutsItBehindItsObjects) {
     ASSERT_TRUE(DrawForm());
     ASSERT_TRUE(Draw(type::Button, 10, 10, 46, 20));

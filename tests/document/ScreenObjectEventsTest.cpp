@@ -96,9 +96,9 @@ TEST_F(ScreenObjectEvents, MouseEventsGoOnInCanvasUnits) {
     button->MouseDown(1, 0, 15, 30);
     button->MouseMove(1, 2, 16, 31);
     button->MouseUp(1, 0, 17, 32);
-    EXPECT_EQ(events.lines, (std::vector<std::string>{"MouseDown 1,0,581,962",
-                                                      "MouseMove 1,2,582,963",
-                                                      "MouseUp 1,0,583,964"}));
+    EXPECT_EQ(events.lines,
+              (std::vector<std::string>{"MouseDown 1,0,581,962", "MouseMove 1,2,582,963",
+                                        "MouseUp 1,0,583,964"}));
 }
 
 // --- changes from the inspector ------------------------------------------------------
@@ -119,7 +119,8 @@ TEST_F(ScreenObjectEvents, MovedPastTheRightEdgeIsPulledBack) {
     ASSERT_TRUE(DrawForm());
     ASSERT_TRUE(Draw(type::Button, 10, 10, 46, 20));
     ASSERT_TRUE(screen.NotifyObjectOfPropertyChange(
-        type::Button, "BUTTON_1", RowsWith(screen, type::Button, "BUTTON_1", 2, PropertyCell(150))));
+        type::Button, "BUTTON_1",
+        RowsWith(screen, type::Button, "BUTTON_1", 2, PropertyCell(150))));
     KomaObject* button = Obj(type::Button, 1);
     EXPECT_EQ(button->KOMABoundsX(), 114);
     // 36.59375 * 114 + 200 = 4371.6875, rounded.
@@ -131,7 +132,8 @@ TEST_F(ScreenObjectEvents, MovedPastTheBottomIsPulledBack) {
     ASSERT_TRUE(DrawForm());
     ASSERT_TRUE(Draw(type::Button, 10, 10, 46, 20));
     ASSERT_TRUE(screen.NotifyObjectOfPropertyChange(
-        type::Button, "BUTTON_1", RowsWith(screen, type::Button, "BUTTON_1", 3, PropertyCell(141))));
+        type::Button, "BUTTON_1",
+        RowsWith(screen, type::Button, "BUTTON_1", 3, PropertyCell(141))));
     EXPECT_EQ(Obj(type::Button, 1)->KOMABoundsY(), 140);
     EXPECT_DOUBLE_EQ(Obj(type::Button, 1)->Top(), At(140));
 }
@@ -140,7 +142,8 @@ TEST_F(ScreenObjectEvents, MovedExactlyToTheEdgeStays) {
     ASSERT_TRUE(DrawForm());
     ASSERT_TRUE(Draw(type::Button, 10, 10, 46, 20));
     ASSERT_TRUE(screen.NotifyObjectOfPropertyChange(
-        type::Button, "BUTTON_1", RowsWith(screen, type::Button, "BUTTON_1", 2, PropertyCell(114))));
+        type::Button, "BUTTON_1",
+        RowsWith(screen, type::Button, "BUTTON_1", 2, PropertyCell(114))));
     EXPECT_EQ(Obj(type::Button, 1)->KOMABoundsX(), 114);
 }
 
@@ -157,7 +160,8 @@ TEST_F(ScreenObjectEvents, ResizedPastTheRightEdgeIsCut) {
     ASSERT_TRUE(DrawForm());
     ASSERT_TRUE(Draw(type::Button, 100, 10, 46, 20));
     ASSERT_TRUE(screen.NotifyObjectOfPropertyChange(
-        type::Button, "BUTTON_1", RowsWith(screen, type::Button, "BUTTON_1", 4, PropertyCell(100))));
+        type::Button, "BUTTON_1",
+        RowsWith(screen, type::Button, "BUTTON_1", 4, PropertyCell(100))));
     KomaObject* button = Obj(type::Button, 1);
     EXPECT_EQ(button->KOMAWidth(), 60);
     EXPECT_DOUBLE_EQ(button->Width(), 60 * kUnits);
@@ -169,7 +173,8 @@ TEST_F(ScreenObjectEvents, ResizedHeightPastTheBottomIsCut) {
     ASSERT_TRUE(DrawForm());
     ASSERT_TRUE(Draw(type::Button, 10, 10, 46, 20));
     ASSERT_TRUE(screen.NotifyObjectOfPropertyChange(
-        type::Button, "BUTTON_1", RowsWith(screen, type::Button, "BUTTON_1", 5, PropertyCell(155))));
+        type::Button, "BUTTON_1",
+        RowsWith(screen, type::Button, "BUTTON_1", 5, PropertyCell(155))));
     EXPECT_EQ(Obj(type::Button, 1)->KOMAHeight(), 150);
     EXPECT_DOUBLE_EQ(Obj(type::Button, 1)->Height(), 150 * kUnits);
     EXPECT_EQ(Obj(type::Button, 1)->KOMAWidth(), 46);
@@ -275,6 +280,20 @@ TEST_F(ScreenObjectEvents, RenameReachesTheSelectionAndTheForm) {
     EXPECT_EQ(events.lines, (std::vector<std::string>{"Changed OK_BUTTON,0"}));
 }
 
+TEST_F(ScreenObjectEvents, RenameOfTheSelectionByItsOwnField) {
+    ASSERT_TRUE(DrawForm());
+    ASSERT_TRUE(Draw(type::Button, 10, 10, 46, 20));
+    ASSERT_TRUE(screen.SelectObject(type::Button, "BUTTON_1"));
+    ClearRecords();
+    const PropertyArray rows =
+        RowsWith(screen, type::Button, "BUTTON_1", 1, PropertyCell("OK_BUTTON"));
+    ASSERT_TRUE(
+        screen.NotifyObjectOfPropertyChange(type::Button, screen.SelectedObjectName(), rows));
+    EXPECT_EQ(screen.SelectedObjectName(), "OK_BUTTON");
+    EXPECT_EQ(Form(1)->GetEmbeddedObjectList()[0].name, "OK_BUTTON");
+    EXPECT_EQ(events.lines, (std::vector<std::string>{"Changed OK_BUTTON,0"}));
+}
+
 TEST_F(ScreenObjectEvents, RefusedRenameStaysInTheSelectionUntilTheNext) {
     ASSERT_TRUE(DrawForm());
     ASSERT_TRUE(Draw(type::Button, 10, 10, 46, 20));
@@ -295,7 +314,8 @@ TEST_F(ScreenObjectEvents, RenamingAnyFormRenamesTheFormOnShow) {
     ASSERT_TRUE(DrawForm());
     ASSERT_TRUE(DrawForm());
     ASSERT_TRUE(screen.NotifyObjectOfPropertyChange(
-        type::Form, "FORM_1", RowsWith(screen, type::Form, "FORM_1", 1, PropertyCell("FORM_MAIN"))));
+        type::Form, "FORM_1",
+        RowsWith(screen, type::Form, "FORM_1", 1, PropertyCell("FORM_MAIN"))));
     EXPECT_EQ(Form(1)->KOMAName(), "FORM_MAIN");
     // FORM_2 is on show, yet the field takes the new name of FORM_1.
     EXPECT_EQ(screen.CurrentDesignForm(), "FORM_MAIN");
