@@ -64,8 +64,10 @@ bool ctlTolvaScreen::CreateObject(int screenType) {
         // The default size stays; the band gives only the top left corner.
         object->Left(std::min(band_.X1, band_.X2));
         object->Top(std::min(band_.Y1, band_.Y2));
-        object->KOMABoundsX(ClampPixel(PixelFromScreenPosition(object->Left(), canvasWidth_), 0, 159));
-        object->KOMABoundsY(ClampPixel(PixelFromScreenPosition(object->Top(), canvasHeight_), 0, 159));
+        object->KOMABoundsX(
+            ClampPixel(PixelFromScreenPosition(object->Left(), canvasWidth_), 0, 159));
+        object->KOMABoundsY(
+            ClampPixel(PixelFromScreenPosition(object->Top(), canvasHeight_), 0, 159));
         // The device size follows the canvas size by the class's own rule.
         object->SetCanvasSize(object->Width(), object->Height());
         if (object->KOMABoundsX() + object->KOMAWidth() > 160) {

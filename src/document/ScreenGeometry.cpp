@@ -52,8 +52,10 @@ bool ctlTolvaScreen::ResizeObject(int screenType, const std::string& name, doubl
         if (object->HorizResizeOK())
             object->KOMAWidth(
                 std::clamp(PixelLengthFromScreen(std::abs(x2 - x1), canvasWidth_), smallest, 160));
-        object->KOMABoundsX(ClampPixel(PixelFromScreenPosition(object->Left(), canvasWidth_), 0, 159));
-        object->KOMABoundsY(ClampPixel(PixelFromScreenPosition(object->Top(), canvasHeight_), 0, 159));
+        object->KOMABoundsX(
+            ClampPixel(PixelFromScreenPosition(object->Left(), canvasWidth_), 0, 159));
+        object->KOMABoundsY(
+            ClampPixel(PixelFromScreenPosition(object->Top(), canvasHeight_), 0, 159));
         // A line's start and end points follow here as in MoveObject, once the
         // line carries them.
     }

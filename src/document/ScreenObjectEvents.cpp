@@ -14,11 +14,13 @@ namespace tolva {
 // drags) belongs to the canvas half. Until it is in, a mouse event of an
 // object goes on to the main window as it is, in canvas coordinates.
 
-void ctlTolvaScreen::ObjectMouseDown(KomaObject& object, int button, int shift, double x, double y) {
+void ctlTolvaScreen::ObjectMouseDown(KomaObject& object, int button, int shift, double x,
+                                     double y) {
     if (events_) events_->MouseDown(button, shift, x + object.Left(), y + object.Top());
 }
 
-void ctlTolvaScreen::ObjectMouseMove(KomaObject& object, int button, int shift, double x, double y) {
+void ctlTolvaScreen::ObjectMouseMove(KomaObject& object, int button, int shift, double x,
+                                     double y) {
     if (events_) events_->MouseMove(button, shift, x + object.Left(), y + object.Top());
 }
 
