@@ -37,8 +37,9 @@ bool ctlTolvaScreen::DeleteObject(int screenType, const std::string& objectName,
     // 4. The last object moves into the gap by a copy of its model.
     if (deleted != last) {
         if (!notifyParent) {
-            // No form was told; still, no form may keep a reference to the
-            // object about to go.
+            // No form was told: a caller that says so has taken the object
+            // out of its form itself. Still, no form may keep a reference to
+            // the last object, which is about to go.
             for (const auto& form : arrays_[type::Form]) {
                 auto* f = static_cast<ctlKOMAForm*>(form.get());
                 for (KomaObject* ref : f->GetEmbeddedObjectReferenceList())

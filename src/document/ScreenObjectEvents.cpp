@@ -35,7 +35,8 @@ void ctlTolvaScreen::ObjectSelected(KomaObject& object) {
     const std::string name = object.KOMAName();
     const int screenType = object.ScreenType();
     SelectObject(screenType, name, &object);
-    if (screenType == type::Form && events_) events_->SelectedObject(name, type::Form);
+    if (screenType == type::Form && screenMode_ != ModeLoading && events_)
+        events_->SelectedObject(name, type::Form);
 }
 
 void ctlTolvaScreen::ObjectDeleted(KomaObject& object) {
