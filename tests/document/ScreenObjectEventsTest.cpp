@@ -77,6 +77,15 @@ TEST_F(ScreenObjectEvents, SelectedFromAFormTellsTheMainWindow) {
     EXPECT_TRUE(events.lines.empty());
 }
 
+TEST_F(ScreenObjectEvents, SelectedFromAFormDuringALoadIsQuiet) {
+    ASSERT_TRUE(DrawForm());
+    screen.StartLoading();
+    ClearRecords();
+    screen.ObjectSelected(*Form(1));
+    EXPECT_EQ(screen.SelectedObjectName(), "FORM_1");
+    EXPECT_TRUE(events.lines.empty());
+}
+
 TEST_F(ScreenObjectEvents, ChangedPictureIsAChangeOutsideALoad) {
     ASSERT_TRUE(DrawForm());
     ClearRecords();
