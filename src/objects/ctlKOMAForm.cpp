@@ -56,6 +56,17 @@ void ctlKOMAForm::KOMAFocusedObject(const std::string& name) {
     focusedObject_ = name;
 }
 
+void ctlKOMAForm::KOMANumEmbeddedObjects(int count) {
+    if (count < 0) {
+        Message("Invalid number of embedded objects", "KOMANumEmbeddedObjects");
+        return;
+    }
+    // The count is the length of the two parallel lists: both follow it, a
+    // new row holding no name and no object until one is embedded there.
+    embedded_.resize(static_cast<size_t>(count));
+    references_.resize(static_cast<size_t>(count), nullptr);
+}
+
 void ctlKOMAForm::KOMABitmapDepth(int depth) {
     if (depth == 2 || depth == 4) bitmapDepth_ = depth;
 }

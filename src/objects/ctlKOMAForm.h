@@ -38,6 +38,9 @@ public:
     const std::string& KOMABitmapFile() const { return bitmapFile_; }
     void KOMABitmapFile(const std::string& path);
     int KOMANumEmbeddedObjects() const { return static_cast<int>(embedded_.size()); }
+    // Sets the length of the embedded list: a negative count is refused with
+    // a message; rows beyond the count are cut, new rows are empty.
+    void KOMANumEmbeddedObjects(int count);
     int KOMABitmapDepth() const { return bitmapDepth_; }
     void KOMABitmapDepth(int depth);
 

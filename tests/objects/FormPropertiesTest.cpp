@@ -133,6 +133,24 @@ TEST_F(FormPropertiesTest, FocusedObjectMustBeEmbedded) {
     EXPECT_EQ(owner.host.messages.size(), 1u);
 }
 
+TEST_F(FormPropertiesTest, NegativeNumberOfEmbeddedObjectsIsRefused) {
+    form.KOMANumEmbeddedObjects(-1);
+    EXPECT_EQ(form.KOMANumEmbeddedObjects(), 0);
+    EXPECT_EQ(Messages(), (std::vector<std::string>{
+                              "KOMANumEmbeddedObjects: Invalid number of embedded objects"}));
+}
+
+TEST_F(FormPropertiesTest, NumberOfEmbeddedObjectsSizesBothLists) {
+    form.KOMANumEmbeddedObjects(2);
+    EXPECT_EQ(form.KOMANumEmbeddedObjects(), 2);
+    EXPECT_EQ(form.GetEmbeddedObjectList().size(), 2u);
+    EXPECT_EQ(form.GetEmbeddedObjectReferenceList(), (std::vector<KomaObject*>{nullptr, nullptr}));
+    form.KOMANumEmbeddedObjects(0);
+    EXPECT_EQ(form.KOMANumEmbeddedObjects(), 0);
+    EXPECT_TRUE(form.GetEmbeddedObjectReferenceList().empty());
+    EXPECT_TRUE(owner.host.messages.empty());
+}
+
 TEST_F(FormPropertiesTest, DepthThreeIsIgnoredSilently) {
     form.KOMABitmapDepth(2);
     EXPECT_EQ(form.KOMABitmapDepth(), 2);
