@@ -117,6 +117,12 @@ void ctlKOMAForm::RemoveFormBitmap() {
 
 // --- inspector rows --------------------------------------------------------------------
 
+std::vector<std::string> ctlKOMAForm::FocusedObjectChoices() const {
+    std::vector<std::string> choices = {"(None)"};
+    for (const EmbeddedRow& row : embedded_) choices.push_back(row.name);
+    return choices;
+}
+
 void ctlKOMAForm::GetPropertyList(PropertyArray& rows) {
     rows = PropertyArray(kRowCount);
     FillSharedPropertyRows(rows);

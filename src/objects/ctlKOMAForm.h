@@ -60,6 +60,9 @@ public:
     };
     void NotifyEmbeddedObjectNameChanged(const std::string& oldName, const std::string& newName);
     std::vector<EmbeddedRow> GetEmbeddedObjectList() const { return embedded_; }
+    // The choices of the focused-object row: "(None)", then the names of the
+    // embedded list in its order.
+    std::vector<std::string> FocusedObjectChoices() const;
     // Adds a row to both lists; false (and a message) for a form.
     bool EmbedObject(int type, const std::string& name, KomaObject* object);
     void RemoveEmbeddedObject(int number);

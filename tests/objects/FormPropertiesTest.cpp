@@ -2,12 +2,14 @@
 // inspector rows and how SetPropertyList applies them.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <random>
 
 #include "document/ObjectTypes.h"
 #include "document/RuntimeFailure.h"
+#include "objects/FormStyles.h"
 #include "objects/ctlKOMAForm.h"
 #include "support/RecordingOwner.h"
 #include "support/TestStrings.h"
@@ -211,6 +213,25 @@ TEST_F(FormPropertiesTest, RowsShowStyleAndTwoBitDepth) {
     PropertyArray rows = Rows();
     EXPECT_EQ(rows.Value(7).Text(), "NON_BITMAP_DIALOG");
     EXPECT_EQ(rows.Value(10).Text(), "2 Bit");
+}
+
+TEST_F(FormPropertiesTest, ValueListsOfTheTenRows) {
+    ValueLists lists;
+    FillFormValueLists(lists);
+    ASSERT_EQ(lists.size(), 10u);
+    for (int r : {1, 2, 3, 4, 5, 8, 9}) EXPECT_TRUE(lists[r - 1].empty()) << r;
+    EXPECT_EQ(lists[5], (std::vector<std::string>{"(None)"}));
+    EXPECT_EQ(lists[6], (std::vector<std::string>{"NORMAL", "BACKGROUND", "BITMAP_DIALOG",
+                                                  "NON_BITMAP_DIALOG"}));
+    EXPECT_EQ(lists[9], (std::vector<std::string>{"2 Bit", "4 Bit"}));
+    EXPECT_EQ(form.FocusedObjectChoices(), (std::vector<std::string>{"(None)"}));
+    // Every choice row's value stands in its list.
+    const PropertyArray rows = Rows();
+    for (int r : {6, 7, 10}) {
+        EXPECT_NE(std::find(lists[r - 1].begin(), lists[r - 1].end(), rows.Value(r).Text()),
+                  lists[r - 1].end())
+            << r;
+    }
 }
 
 TEST_F(FormPropertiesTest, UnchangedRowsChangeNothing) {
