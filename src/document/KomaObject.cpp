@@ -245,6 +245,8 @@ bool KomaObject::ApplySharedPropertyRows(const PropertyArray& rows) {
     if (rows.Columns() != 3 || rows.Rows() != PropertyRowCount()) return false;
 
     // 2. The name: it must pass the name rule and differ; then it must be free.
+    // A name row the user emptied is no name at all: it is passed over like
+    // any other text that fails the rule, and the old name stays.
     const std::string newName = rows.Value(1).Text();
     if (!newName.empty() && IsValidObjectName(newName) && newName != name_) {
         if (!owner_ || owner_->IsNewNameUnique(name_, newName)) {
