@@ -34,6 +34,11 @@ int ctlKOMAForm::KOMAObjectType() {
     return kind::Form;
 }
 
+void ctlKOMAForm::KOMAObjectType(int kind) {
+    if (kind != kind::Form) Message("Invalid object type", "Form - KOMAObjectType");
+    SetObjectTypeWord("FORM");
+}
+
 void ctlKOMAForm::KOMAName(const std::string& name) {
     if (TrimSpaces(name).empty()) {
         Message("Invalid name", "KOMAName");

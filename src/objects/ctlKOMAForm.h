@@ -21,6 +21,9 @@ public:
     void KOMAFormStyle(int style);
     const std::string& KOMAFormStyleWord() const { return styleWord_; }
     int KOMAObjectType() override;
+    // The device kind of a form is 0: any other number is reported and the
+    // word "FORM" is kept all the same.
+    void KOMAObjectType(int kind);
     void KOMAName(const std::string& name) override;
     using KomaObject::KOMAName;
     const std::string& KOMAFormTitle() const { return title_; }

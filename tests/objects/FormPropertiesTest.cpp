@@ -87,6 +87,15 @@ TEST_F(FormPropertiesTest, StyleNumberStoresItsWord) {
     EXPECT_TRUE(owner.host.messages.empty());
 }
 
+TEST_F(FormPropertiesTest, ObjectTypeOtherThanFormIsReportedAndFormKept) {
+    form.KOMAObjectType(kind::Form);
+    EXPECT_TRUE(owner.host.messages.empty());
+    form.KOMAObjectType(kind::Control);
+    EXPECT_EQ(form.KOMAObjectTypeWord(), "FORM");
+    EXPECT_EQ(form.KOMAObjectType(), kind::Form);
+    EXPECT_EQ(Messages(), (std::vector<std::string>{"Form - KOMAObjectType: Invalid object type"}));
+}
+
 TEST_F(FormPropertiesTest, BlankNameIsRefusedWithItsMessage) {
     form.KOMAName("FORM_1");
     form.KOMAName("   ");
