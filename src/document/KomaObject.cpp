@@ -76,9 +76,11 @@ void KomaObject::PCTwipsToTolvaPixels(double value) {
         return;
     }
     twipsPerPixel_ = value;
-    // Size the object on the canvas again from its device size; the resize
-    // writes the device size back and lays the object out.
-    SetCanvasSize(width_ * twipsPerPixel_, height_ * twipsPerPixel_);
+    // The object sizes itself again at the new scale: its box on the canvas
+    // stays where and as large as it is, the device size is written back from
+    // it and the object is laid out. A kind whose box does not follow its
+    // device size (the table's fixed box) thus keeps its box.
+    OnCanvasResize();
 }
 
 void KomaObject::PCTwipsToTolvaPixels(const std::string& text) {

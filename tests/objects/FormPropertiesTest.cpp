@@ -179,10 +179,13 @@ TEST_F(FormPropertiesTest, TwipsPerPixelLaysTheFormOutAgain) {
     EXPECT_DOUBLE_EQ(form.PCTwipsToTolvaPixels(), 36.59);
     EXPECT_EQ(Messages(),
               (std::vector<std::string>{"PCTwipsToTolvaPixels: Invalid PCTwipsToTolvaPixels"}));
+    // The form's box stays and its device size is written back from it.
+    form.SetCanvasSize(2000, 1000);
     form.PCTwipsToTolvaPixels(20.0);
-    EXPECT_DOUBLE_EQ(form.Width(), 3200);
-    EXPECT_DOUBLE_EQ(form.Height(), 3200);
-    EXPECT_EQ(form.KOMAWidth(), 160);
+    EXPECT_DOUBLE_EQ(form.Width(), 2000);
+    EXPECT_DOUBLE_EQ(form.Height(), 1000);
+    EXPECT_EQ(form.KOMAWidth(), 100);
+    EXPECT_EQ(form.KOMAHeight(), 50);
 }
 
 // --- inspector rows -------------------------------------------------------------------
