@@ -93,6 +93,8 @@ void ctlKOMAForm::KOMABitmapFile(const std::string& path) {
         return;
     }
     const auto size = h.LoadPicture(path);
+    // A file that is there but holds no picture the program can read gives
+    // no bitmap to show either: it is reported as not found.
     if (!size) {
         Message(LoadResString(msg::BitmapNotFound));
         return;

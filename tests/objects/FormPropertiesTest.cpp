@@ -293,6 +293,7 @@ TEST_F(FormPropertiesTest, PositionRowsRaiseMovedWithTheNewPosition) {
 }
 
 TEST_F(FormPropertiesTest, SizeRowsSetTheSizeOnTheScreenThenRaiseResized) {
+    form.SetCanvasSize(1600, 1600);
     form.PCTwipsToTolvaPixels(10.0);
     PropertyArray rows = Rows();
     rows.At(3, 4) = PropertyCell("100");
@@ -304,6 +305,7 @@ TEST_F(FormPropertiesTest, SizeRowsSetTheSizeOnTheScreenThenRaiseResized) {
     EXPECT_DOUBLE_EQ(form.Height(), 800);
     // The height row is taken first.
     EXPECT_EQ(owner.events, (std::vector<std::string>{"Resized 160,80", "Resized 100,80"}));
+    EXPECT_TRUE(owner.host.messages.empty());
 }
 
 TEST_F(FormPropertiesTest, Width161InTheInspectorIsRefused) {
@@ -437,6 +439,15 @@ TEST_F(FormBitmapTest, AbsentFileShowsBitmapNotFoundAndChangesNothing) {
     form.KOMABitmapFile("FORM.BMP");
     EXPECT_EQ(form.KOMABitmapFile(), "LOGO.BMP");
     EXPECT_TRUE(form.HasPicture());
+    EXPECT_TRUE(owner.events.empty());
+    EXPECT_EQ(Messages(), (std::vector<std::string>{"Tolva Resource Editor: Bitmap not found"}));
+}
+
+TEST_F(FormBitmapTest, FileThatIsNoPictureIsReportedAsNotFound) {
+    std::ofstream("NOTE.BMP") << "not a picture";
+    form.KOMABitmapFile("NOTE.BMP");
+    EXPECT_EQ(form.KOMABitmapFile(), "");
+    EXPECT_FALSE(form.HasPicture());
     EXPECT_TRUE(owner.events.empty());
     EXPECT_EQ(Messages(), (std::vector<std::string>{"Tolva Resource Editor: Bitmap not found"}));
 }
