@@ -76,9 +76,11 @@ void KomaObject::PCTwipsToTolvaPixels(double value) {
         return;
     }
     twipsPerPixel_ = value;
-    // Size the object on the canvas again from its device size; the resize
-    // writes the device size back and lays the object out.
-    SetCanvasSize(width_ * twipsPerPixel_, height_ * twipsPerPixel_);
+    // The object sizes itself again at the new scale: its box on the canvas
+    // stays where and as large as it is, the device size is written back from
+    // it and the object is laid out. A kind whose box does not follow its
+    // device size (the table's fixed box) thus keeps its box.
+    OnCanvasResize();
 }
 
 void KomaObject::PCTwipsToTolvaPixels(const std::string& text) {
@@ -245,6 +247,8 @@ bool KomaObject::ApplySharedPropertyRows(const PropertyArray& rows) {
     if (rows.Columns() != 3 || rows.Rows() != PropertyRowCount()) return false;
 
     // 2. The name: it must pass the name rule and differ; then it must be free.
+    // A name row the user emptied is no name at all: it is passed over like
+    // any other text that fails the rule, and the old name stays.
     const std::string newName = rows.Value(1).Text();
     if (!newName.empty() && IsValidObjectName(newName) && newName != name_) {
         if (!owner_ || owner_->IsNewNameUnique(name_, newName)) {

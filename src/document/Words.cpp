@@ -134,9 +134,13 @@ std::string WordFromBoolean(int number) { return WordOf(number, kBooleanWords); 
 
 int OnOffFromWord(const std::string& word) { return NumberOf(UpperCase(word), kOnOffWords); }
 
+std::string WordFromOnOff(int number) { return WordOf(number, kOnOffWords); }
+
 int BaseLineFromWord(const std::string& word) {
     return NumberOf(UpperCase(word), kBaseLineWords);
 }
+
+std::string WordFromBaseLine(int number) { return WordOf(number, kBaseLineWords); }
 
 int FontFromWord(const std::string& word) { return NumberOf(UpperCase(word), kFontWords); }
 

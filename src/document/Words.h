@@ -34,9 +34,11 @@ std::string WordFromBoolean(int number);
 
 // On and off: "ON" 0, "OFF" 1.
 int OnOffFromWord(const std::string& word);
+std::string WordFromOnOff(int number);
 
 // Base lines: "NO_LINE" 0, "DOT_LINE" 1, "GREY_LINE" 2.
 int BaseLineFromWord(const std::string& word);
+std::string WordFromBaseLine(int number);
 
 // Fonts: "SMALL_FONT" 0, "MEDIUM_FONT" 1.
 int FontFromWord(const std::string& word);

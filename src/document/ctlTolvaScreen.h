@@ -104,6 +104,9 @@ public:
     bool ResizeObject(int type, const std::string& name, double x1, double y1, double x2,
                       double y2);
     bool MoveObject(int type, const std::string& name, double left, double top);
+    // Puts the selection nodes round the object (the two line nodes when
+    // lineFlag is set). Filled in by the canvas half.
+    void PlaceNodes(KomaObject& object, bool lineFlag);
 
     bool GetObjectType(const std::string& name, int& type) const;
     bool GetObjectPropertiesList(PropertyArray& rows, int type, const std::string& name);
@@ -173,6 +176,10 @@ protected:
     KomaObject* FindObject(int type, const std::string& name, int* index = nullptr) const;
     void DeleteAllEmbededObjectsFromForm(const std::string& formName, int formIndex);
     void Log(const std::string& line) const;
+    // Shows or hides the selection nodes: with lineFlag the two line nodes,
+    // else the eight round a box; the others are hidden. ShowNodes(false,
+    // true) hides them all. Filled in by the canvas half.
+    void ShowNodes(bool show, bool lineFlag);
 
     // Makes a new object of a screen type (0 to 15 but 10), with its class's
     // defaults; nullptr for the menu and anything else.

@@ -25,4 +25,16 @@ std::string WordFromFormStyle(int style) {
     return words[style];
 }
 
+const std::vector<std::string>& FormDepthWords() {
+    static const std::vector<std::string> words = {"2 Bit", "4 Bit"};
+    return words;
+}
+
+void FillFormValueLists(ValueLists& lists) {
+    lists.assign(10, {});
+    lists[6 - 1] = {"(None)"};
+    lists[7 - 1] = FormStyleWords();
+    lists[10 - 1] = FormDepthWords();
+}
+
 }  // namespace tolva

@@ -34,6 +34,11 @@ int ctlKOMAForm::KOMAObjectType() {
     return kind::Form;
 }
 
+void ctlKOMAForm::KOMAObjectType(int kind) {
+    if (kind != kind::Form) Message("Invalid object type", "Form - KOMAObjectType");
+    SetObjectTypeWord("FORM");
+}
+
 void ctlKOMAForm::KOMAName(const std::string& name) {
     if (TrimSpaces(name).empty()) {
         Message("Invalid name", "KOMAName");
@@ -54,6 +59,17 @@ void ctlKOMAForm::KOMAFocusedObject(const std::string& name) {
         return;
     }
     focusedObject_ = name;
+}
+
+void ctlKOMAForm::KOMANumEmbeddedObjects(int count) {
+    if (count < 0) {
+        Message("Invalid number of embedded objects", "KOMANumEmbeddedObjects");
+        return;
+    }
+    // The count is the length of the two parallel lists: both follow it, a
+    // new row holding no name and no object until one is embedded there.
+    embedded_.resize(static_cast<size_t>(count));
+    references_.resize(static_cast<size_t>(count), nullptr);
 }
 
 void ctlKOMAForm::KOMABitmapDepth(int depth) {
@@ -77,6 +93,8 @@ void ctlKOMAForm::KOMABitmapFile(const std::string& path) {
         return;
     }
     const auto size = h.LoadPicture(path);
+    // A file that is there but holds no picture the program can read gives
+    // no bitmap to show either: it is reported as not found.
     if (!size) {
         Message(LoadResString(msg::BitmapNotFound));
         return;
@@ -105,6 +123,12 @@ void ctlKOMAForm::RemoveFormBitmap() {
 }
 
 // --- inspector rows --------------------------------------------------------------------
+
+std::vector<std::string> ctlKOMAForm::FocusedObjectChoices() const {
+    std::vector<std::string> choices = {"(None)"};
+    for (const EmbeddedRow& row : embedded_) choices.push_back(row.name);
+    return choices;
+}
 
 void ctlKOMAForm::GetPropertyList(PropertyArray& rows) {
     rows = PropertyArray(kRowCount);

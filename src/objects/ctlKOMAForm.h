@@ -21,6 +21,9 @@ public:
     void KOMAFormStyle(int style);
     const std::string& KOMAFormStyleWord() const { return styleWord_; }
     int KOMAObjectType() override;
+    // The device kind of a form is 0: any other number is reported and the
+    // word "FORM" is kept all the same.
+    void KOMAObjectType(int kind);
     void KOMAName(const std::string& name) override;
     using KomaObject::KOMAName;
     const std::string& KOMAFormTitle() const { return title_; }
@@ -38,6 +41,9 @@ public:
     const std::string& KOMABitmapFile() const { return bitmapFile_; }
     void KOMABitmapFile(const std::string& path);
     int KOMANumEmbeddedObjects() const { return static_cast<int>(embedded_.size()); }
+    // Sets the length of the embedded list: a negative count is refused with
+    // a message; rows beyond the count are cut, new rows are empty.
+    void KOMANumEmbeddedObjects(int count);
     int KOMABitmapDepth() const { return bitmapDepth_; }
     void KOMABitmapDepth(int depth);
 
@@ -57,6 +63,9 @@ public:
     };
     void NotifyEmbeddedObjectNameChanged(const std::string& oldName, const std::string& newName);
     std::vector<EmbeddedRow> GetEmbeddedObjectList() const { return embedded_; }
+    // The choices of the focused-object row: "(None)", then the names of the
+    // embedded list in its order.
+    std::vector<std::string> FocusedObjectChoices() const;
     // Adds a row to both lists; false (and a message) for a form.
     bool EmbedObject(int type, const std::string& name, KomaObject* object);
     void RemoveEmbeddedObject(int number);

@@ -228,13 +228,21 @@ TEST_F(KomaObjectTest, TwipsPerPixelZeroOrTextIsRefused) {
               (std::vector<std::string>(3, "PCTwipsToTolvaPixels: Invalid PCTwipsToTolvaPixels")));
 }
 
-TEST_F(KomaObjectTest, GoodTwipsPerPixelResizesTheObjectOnTheCanvas) {
+TEST_F(KomaObjectTest, GoodTwipsPerPixelWritesTheDeviceSizeBackFromTheCanvas) {
     button.PCTwipsToTolvaPixels(std::string("36.59375"));
     EXPECT_DOUBLE_EQ(button.PCTwipsToTolvaPixels(), 36.59375);
-    EXPECT_DOUBLE_EQ(button.Width(), 46 * 36.59375);
-    EXPECT_DOUBLE_EQ(button.Height(), 20 * 36.59375);
+    // The box on the canvas stays; 1683.14 / 36.59375 rounds to 46 again.
+    EXPECT_DOUBLE_EQ(button.Width(), 46 * 36.59);
+    EXPECT_DOUBLE_EQ(button.Height(), 20 * 36.59);
     EXPECT_EQ(button.KOMAWidth(), 46);
+    EXPECT_EQ(button.KOMAHeight(), 20);
     EXPECT_TRUE(owner.host.messages.empty());
+
+    button.SetCanvasSize(400, 300);
+    button.PCTwipsToTolvaPixels(10.0);
+    EXPECT_DOUBLE_EQ(button.Width(), 400);
+    EXPECT_EQ(button.KOMAWidth(), 40);
+    EXPECT_EQ(button.KOMAHeight(), 30);
 }
 
 TEST_F(KomaObjectTest, CanvasSizeWritesTheDeviceSizeBackHalfToEven) {

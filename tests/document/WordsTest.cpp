@@ -131,6 +131,13 @@ TEST(OnOffWords, OnIsTheLowerValue) {
     EXPECT_EQ(OnOffFromWord("On"), 0);
 }
 
+TEST(OnOffWords, NumberToWord) {
+    EXPECT_EQ(WordFromOnOff(0), "ON");
+    EXPECT_EQ(WordFromOnOff(1), "OFF");
+    EXPECT_EQ(WordFromOnOff(-1), "");
+    EXPECT_EQ(WordFromOnOff(2), "");
+}
+
 TEST(OnOffWords, UnknownWordsGiveZero) {
     EXPECT_EQ(OnOffFromWord("TRUE"), 0);
     EXPECT_EQ(OnOffFromWord("OF"), 0);
@@ -145,6 +152,14 @@ TEST(BaseLineWords, EveryWord) {
     EXPECT_EQ(BaseLineFromWord("GREY_LINE"), 2);
     EXPECT_EQ(BaseLineFromWord("grey_line"), 2);
     EXPECT_EQ(BaseLineFromWord("dot_line"), 1);
+}
+
+TEST(BaseLineWords, NumberToWord) {
+    EXPECT_EQ(WordFromBaseLine(0), "NO_LINE");
+    EXPECT_EQ(WordFromBaseLine(1), "DOT_LINE");
+    EXPECT_EQ(WordFromBaseLine(2), "GREY_LINE");
+    EXPECT_EQ(WordFromBaseLine(3), "");
+    EXPECT_EQ(WordFromBaseLine(-1), "");
 }
 
 TEST(BaseLineWords, UnknownWordsGiveZero) {

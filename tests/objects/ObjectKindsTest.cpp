@@ -110,6 +110,30 @@ TEST(ObjectKinds, TableKeepsItsFixedBoxAndNoDeviceSize) {
     EXPECT_EQ(table.KOMAWidth(), 0);
 }
 
+TEST(ObjectKinds, TableKeepsItsBoxWhenGivenTheScreensScale) {
+    testing::RecordingOwner owner;
+    ctlKOMATable table;
+    table.SetOwner(&owner);
+    table.PCTwipsToTolvaPixels(36.59375);
+    EXPECT_DOUBLE_EQ(table.Width(), 855);
+    EXPECT_DOUBLE_EQ(table.Height(), 855);
+    EXPECT_EQ(table.KOMAWidth(), 0);
+    EXPECT_EQ(table.KOMAHeight(), 0);
+    EXPECT_TRUE(owner.host.messages.empty());
+}
+
+TEST(ObjectKinds, EveryKindKeepsItsDefaultSizeAtTheScreensScale) {
+    for (const auto& k : AllKinds()) {
+        testing::RecordingOwner owner;
+        auto object = k.make();
+        object->SetOwner(&owner);
+        object->PCTwipsToTolvaPixels(36.59375);
+        EXPECT_EQ(object->KOMAWidth(), k.width) << k.name;
+        EXPECT_EQ(object->KOMAHeight(), k.height) << k.name;
+        EXPECT_TRUE(owner.host.messages.empty()) << k.name;
+    }
+}
+
 TEST(ObjectKinds, CopyModelFromTakesEveryPropertyOfTheSameKind) {
     testing::RecordingOwner owner;
     ctlKOMAButton a, b;

@@ -1,0 +1,63 @@
+// Loading and emptying the document. During a load (ScreenMode 5) objects
+// come in from their records with no names made, no ids given and no events
+// raised; the loader embeds them afterwards.
+#include "document/ScreenEvents.h"
+#include "document/ctlTolvaScreen.h"
+#include "objects/ctlKOMAForm.h"
+
+namespace tolva {
+
+void ctlTolvaScreen::StartLoading() { screenMode_ = ModeLoading; }
+
+bool ctlTolvaScreen::CreateObjectFromText(int screenType, const GroupList& record) {
+    std::unique_ptr<KomaObject> made = MakeObject(screenType);
+    if (!made) return false;
+    KomaObject* object = made.get();
+    object->SetOwner(this);
+    // A loaded object stays hidden until its form is shown.
+    object->Visible(false);
+    arrays_[screenType].push_back(std::move(made));
+    object->iIndex(Count(screenType));
+    object->PCTwipsToTolvaPixels(twipsPerPixel_);
+    bool ok = false;
+    object->SetFromResText(record, ok);
+    return true;
+}
+
+void ctlTolvaScreen::StopLoading() {
+    screenMode_ = ModeIdle;
+    if (NumForms() < 1) return;
+    ctlKOMAForm* first = FormAt(1);
+    const std::string name = first->KOMAName();
+    ShowForm(name);
+    SelectObject(type::Form, name, first);
+    if (events_) events_->ChangedObject(name, type::Form);
+}
+
+void ctlTolvaScreen::UnloadAll() {
+    // References into the arrays go before the objects they point at.
+    selectedObjectRef_ = nullptr;
+    currentFormRef_ = nullptr;
+    constexpr int kOrder[] = {type::Form,         type::Button,       type::RepeatButton,
+                              type::String,       type::Bitmap,       type::Checkbox,
+                              type::PushButton,   type::Textbox,      type::Line,
+                              type::List,         type::Field,        type::PopupTrigger,
+                              type::Scrollbar,    type::SchedulerLine, type::Table};
+    for (int t : kOrder) arrays_[t].clear();
+    for (auto& array : arrays_) array.clear();
+    numMenus_ = 0;
+}
+
+void ctlTolvaScreen::ClearScreen() {
+    ShowNodes(false, true);
+    SelectObject(type::None, "");
+    UnloadAll();
+    selectedObjectRef_ = nullptr;
+    currentFormRef_ = nullptr;
+    selectedObjectType_ = type::None;
+    selectedObjectName_.clear();
+    currentDesignForm_.clear();
+    Log("Editor cleared");
+}
+
+}  // namespace tolva

@@ -1,0 +1,40 @@
+#include "inspector/ValueLists.h"
+
+#include <gtest/gtest.h>
+
+#include "document/ObjectTypes.h"
+#include "objects/FormStyles.h"
+
+namespace tolva {
+namespace {
+
+TEST(ValueLists, AKindGivesACopyOfItsLists) {
+    ValueLists form;
+    FillFormValueLists(form);
+    SetValueLists(type::Form, form);
+
+    ValueLists copy;
+    ASSERT_TRUE(GetValueLists(type::Form, copy));
+    EXPECT_EQ(copy, form);
+    copy[6].clear();  // a copy: the store keeps its own
+    ValueLists again;
+    ASSERT_TRUE(GetValueLists(type::Form, again));
+    EXPECT_EQ(again, form);
+}
+
+TEST(ValueLists, NoObjectGivesNoListsButAnswersTrue) {
+    ValueLists lists = {{"x"}};
+    EXPECT_TRUE(GetValueLists(type::None, lists));
+    EXPECT_TRUE(lists.empty());
+}
+
+TEST(ValueLists, KindAboveSixteenAnswersFalse) {
+    ValueLists lists = {{"kept"}};
+    EXPECT_FALSE(GetValueLists(17, lists));
+    EXPECT_FALSE(GetValueLists(-1, lists));
+    EXPECT_EQ(lists, (ValueLists{{"kept"}}));
+    SetValueLists(17, {{"ignored"}});  // passed over, no failure
+}
+
+}  // namespace
+}  // namespace tolva
