@@ -64,14 +64,14 @@ void DrawForm(QPainter& p) {
 }
 
 void DrawButton(QPainter& p) {
-    Box(p, QRectF(2.5, 5.5, 15, 9), kLight, 3.5);
-    Line(p, 7, 10, 13, 10, 1.5);
+    Box(p, QRectF(1.5, 4.5, 17, 11), kLight, 4);
+    Line(p, 6, 10, 14, 10, 2.0);
 }
 
 void DrawRepeatButton(QPainter& p) {
-    Box(p, QRectF(2.5, 5.5, 15, 9), kLight, 3.5);
-    Triangle(p, {5.5, 12}, {7.75, 8}, {10, 12});
-    Triangle(p, {10.5, 8}, {12.75, 12}, {15, 8});
+    Box(p, QRectF(1.5, 4.5, 17, 11), kLight, 4);
+    Triangle(p, {4.5, 13}, {7.5, 7}, {10.5, 13});
+    Triangle(p, {9.5, 7}, {12.5, 13}, {15.5, 7});
 }
 
 void DrawPushButton(QPainter& p) {
@@ -82,16 +82,17 @@ void DrawPushButton(QPainter& p) {
 }
 
 void DrawTextbox(QPainter& p) {
-    Box(p, QRectF(2.5, 6.5, 15, 7), kPaper);
-    Line(p, 4.5, 10, 8.5, 10, 1.5, kGrey);
+    Box(p, QRectF(1.5, 5.5, 17, 9), kPaper);
+    Line(p, 4, 10, 9, 10, 2.0, kGrey);
     // The insertion point.
-    Line(p, 10.5, 8, 10.5, 12, 1.0, kAccent);
-    Line(p, 9.5, 8, 11.5, 8, 1.0, kAccent);
-    Line(p, 9.5, 12, 11.5, 12, 1.0, kAccent);
+    Line(p, 11.5, 7.5, 11.5, 12.5, 1.0, kAccent);
+    Line(p, 10, 7.5, 13, 7.5, 1.0, kAccent);
+    Line(p, 10, 12.5, 13, 12.5, 1.0, kAccent);
 }
 
 void DrawField(QPainter& p) {
-    QPen dotted(kInk, 1.0, Qt::DotLine);
+    QPen dotted(kInk, 1.0);
+    dotted.setDashPattern({1.0, 1.0});
     p.setPen(dotted);
     for (double y : {6.5, 11.5, 16.5}) p.drawLine(QPointF(2, y), QPointF(18, y));
     Line(p, 3, 4.5, 13, 4.5, 1.5, kGrey);
