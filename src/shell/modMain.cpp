@@ -1,16 +1,74 @@
 #include "shell/modMain.h"
 
-#include <QApplication>
-#include <QMainWindow>
+#include "document/Host.h"
+#include "document/ObjectTypes.h"
+#include "document/PropertyLabels.h"
+#include "document/StringTable.h"
+#include "document/Words.h"
+#include "inspector/ValueLists.h"
+#include "objects/FormStyles.h"
+#include "platform/QtHost.h"
+#include "shell/FilePaths.h"
+#include "shell/RunGuarded.h"
+#include "shell/frmMain.h"
 
 namespace tolva {
 
+void LoadStringTable(Host& host) {
+    StringTable& table = StringTable::Shared();
+    table.LoadFromFile(host.ProgramDirectory() + "/Strings.txt");
+    table.SetLanguage(host.LanguageId());
+}
+
+void BuildColorWordList() {
+    // A fixed table, made on its first use: asked for here so that it stands
+    // before any object does.
+    ColorWordList();
+}
+
+bool LoadFontWidthTables(Host&) {
+    // The device's text widths are not read by the program yet.
+    return true;
+}
+
+void BuildValueLists() {
+    // The value lists of the object kinds, in the order form, button, string,
+    // repeat button, bitmap, checkbox, push button, textbox, field, line,
+    // list, menu, popup trigger, scrollbar, scheduler line, table. Only the
+    // form's are in the program yet; each other kind's take their place in
+    // this order as they come.
+    ValueLists form;
+    FillFormValueLists(form);
+    SetValueLists(type::Form, form);
+}
+
+void LoadPropertyLabelStrings() { LoadPropertyLabels(StringTable::Shared()); }
+
+std::unique_ptr<frmMain> StartUp(Host& host, bool show) {
+    LoadStringTable(host);
+    BuildColorWordList();
+    if (!LoadFontWidthTables(host)) return nullptr;
+    BuildValueLists();
+    LoadPropertyLabelStrings();
+    ResourceFilePath.clear();
+    HeaderFilePath.clear();
+    auto window = std::make_unique<frmMain>(host);
+    window->Load(show);
+    return window;
+}
+
 int SubMain(int argc, char** argv) {
-    QApplication app(argc, argv);
-    QMainWindow window;
-    window.setWindowTitle("Tolva Resource Editor");
-    window.show();
-    return app.exec();
+    GuardedApplication app(argc, argv);
+    QtHost host;
+    SetGuardHost(&host);
+    std::unique_ptr<frmMain> window;
+    RunGuarded([&] { window = StartUp(host); });
+    if (!window) return kRunTimeErrorStatus;
+    host.SetParentWidget(window.get());
+    const int status = app.exec();
+    host.SetParentWidget(nullptr);
+    SetGuardHost(nullptr);
+    return status;
 }
 
 }  // namespace tolva

@@ -1,0 +1,77 @@
+// The start-up steps up to the loaded main window.
+#include <gtest/gtest.h>
+
+#include "document/ObjectTypes.h"
+#include "document/PropertyLabels.h"
+#include "document/StringTable.h"
+#include "inspector/ValueLists.h"
+#include "objects/FormStyles.h"
+#include "shell/FilePaths.h"
+#include "shell/frmMain.h"
+#include "shell/modMain.h"
+#include "support/ScriptedHost.h"
+#include "support/TestStrings.h"
+
+namespace tolva {
+namespace {
+
+class StartUpTest : public ::testing::Test {
+protected:
+    void SetUp() override { host.programDirectory = TOLVA_SOURCE_DATA_DIR; }
+    void TearDown() override {
+        // Leave the program's table as the other tests expect it.
+        StringTable::Shared().SetLanguage(1033);
+        testing::EnsureStringsLoaded();
+        LoadPropertyLabels(StringTable::Shared());
+    }
+    testing::ScriptedHost host;
+};
+
+TEST_F(StartUpTest, StringTableComesFromTheProgramsFolderInTheHostsLanguage) {
+    host.languageId = 1031;
+    LoadStringTable(host);
+    EXPECT_EQ(StringTable::Shared().Language(), 1031);
+    EXPECT_EQ(LoadResString(msg::ConfirmFormDeleteTitle), "Confirm Form Delete");
+}
+
+TEST_F(StartUpTest, PathsAreEmptiedAndTheWindowIsLoaded) {
+    ResourceFilePath = "a.txt";
+    HeaderFilePath = "a.h";
+    host.settings["Settings/GridInterval"] = "45";
+    auto window = StartUp(host, false);
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(ResourceFilePath, "");
+    EXPECT_EQ(HeaderFilePath, "");
+    EXPECT_EQ(window->GridInterval(), 45);
+    EXPECT_NE(window->LogWindow(), nullptr);
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_TRUE(window->DesignSaved());
+}
+
+TEST_F(StartUpTest, PropertyLabelsAreReadFromTheTable) {
+    auto window = StartUp(host, false);
+    ASSERT_NE(window, nullptr);
+    // Every label number gives its text from the table.
+    for (int number : PropertyLabelNumbers()) {
+        EXPECT_EQ(PropertyLabel(number), LoadResString(number)) << number;
+    }
+}
+
+TEST_F(StartUpTest, FormValueListsAreBuilt) {
+    SetValueLists(type::Form, {});
+    auto window = StartUp(host, false);
+    ValueLists built;
+    ASSERT_TRUE(GetValueLists(type::Form, built));
+    ValueLists expected;
+    FillFormValueLists(expected);
+    EXPECT_FALSE(built.empty());
+    EXPECT_EQ(built, expected);
+}
+
+TEST_F(StartUpTest, StartUpShowsNoMessage) {
+    auto window = StartUp(host, false);
+    EXPECT_TRUE(host.messages.empty());
+}
+
+}  // namespace
+}  // namespace tolva
