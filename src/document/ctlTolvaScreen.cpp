@@ -8,6 +8,7 @@
 
 #include "document/Host.h"
 #include "document/LogSink.h"
+#include "document/RuntimeFailure.h"
 #include "document/ScreenEvents.h"
 #include "objects/ctlKOMAForm.h"
 
@@ -158,7 +159,16 @@ bool ctlTolvaScreen::NotifyObjectOfPropertyChange(int screenType, const std::str
         }
     }
 
-    if (!object->SetPropertyList(rows))
+    // A row the object cannot convert at all (a size that is no number) ends
+    // its SetPropertyList early; the rows before it stay applied and the
+    // change counts as not made, with the same message as a refused array.
+    bool applied = false;
+    try {
+        applied = object->SetPropertyList(rows);
+    } catch (const RuntimeFailure&) {
+        applied = false;
+    }
+    if (!applied)
         host_.MessageBox("Could not change object properties", "NotifyObjectOfPropertyChange");
 
     if (screenType != type::Form && object->KOMAName() != name && object->ParentForm())

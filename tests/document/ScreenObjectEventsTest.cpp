@@ -112,6 +112,21 @@ TEST_F(ScreenObjectEvents, MouseEventsGoOnInCanvasUnits) {
 
 // --- changes from the inspector ------------------------------------------------------
 
+TEST_F(ScreenObjectEvents, SizeRowThatIsNoNumberIsRefusedAndEarlierRowsStay) {
+    ASSERT_TRUE(DrawForm());
+    ASSERT_TRUE(Draw(type::Button, 10, 10, 46, 20));
+    ClearRecords();
+    PropertyArray rows = RowsWith(screen, type::Button, "BUTTON_1", 2, PropertyCell(30));
+    rows.At(3, 5) = PropertyCell("tall");
+    // The screen survives the conversion failure and says the change failed.
+    ASSERT_TRUE(screen.NotifyObjectOfPropertyChange(type::Button, "BUTTON_1", rows));
+    EXPECT_EQ(host.MessageLines(),
+              (std::vector<std::string>{
+                  "NotifyObjectOfPropertyChange: Could not change object properties"}));
+    EXPECT_EQ(Obj(type::Button, 1)->KOMABoundsX(), 30);
+    EXPECT_EQ(Obj(type::Button, 1)->KOMAHeight(), 20);
+}
+
 TEST_F(ScreenObjectEvents, MovedInsideTheScreenStaysWhereItWasPut) {
     ASSERT_TRUE(DrawForm());
     ASSERT_TRUE(Draw(type::Button, 10, 10, 46, 20));
