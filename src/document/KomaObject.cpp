@@ -14,20 +14,6 @@
 
 namespace tolva {
 
-namespace {
-
-// A real rounded half to even and held to the int range, so that a setter
-// sees an out-of-range value and refuses it with its own message.
-int RoundToIntSaturating(double value) {
-    const double rounded = RoundHalfEven(value);
-    if (std::isnan(rounded)) return 0;
-    if (rounded > std::numeric_limits<int>::max()) return std::numeric_limits<int>::max();
-    if (rounded < std::numeric_limits<int>::min()) return std::numeric_limits<int>::min();
-    return static_cast<int>(rounded);
-}
-
-}  // namespace
-
 bool IsValidObjectName(const std::string& name) {
     if (name.empty()) throw RuntimeFailure("Invalid procedure call: an empty object name");
     auto isLetter = [](unsigned char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };

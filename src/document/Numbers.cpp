@@ -86,6 +86,14 @@ int32_t RealToInt32(double value) {
                                              "32-bit whole number"));
 }
 
+int RoundToIntSaturating(double value) {
+    const double rounded = RoundHalfEven(value);
+    if (std::isnan(rounded)) return 0;
+    if (rounded > std::numeric_limits<int>::max()) return std::numeric_limits<int>::max();
+    if (rounded < std::numeric_limits<int>::min()) return std::numeric_limits<int>::min();
+    return static_cast<int>(rounded);
+}
+
 std::string IntToText(long long value) { return std::to_string(value); }
 
 }  // namespace tolva

@@ -31,6 +31,10 @@ int32_t ToInt32(std::string_view text);
 int RealToInt16(double value);
 int32_t RealToInt32(double value);
 
+// A real rounded half to even and held to the int range: for values that
+// go on to a setter which refuses what is out of its own range.
+int RoundToIntSaturating(double value);
+
 // Whole number to text: plain decimal, minus sign where negative.
 std::string IntToText(long long value);
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "document/RuntimeFailure.h"
 
 namespace tolva {
@@ -62,6 +64,14 @@ TEST(NumberRule, RoundHalfEvenOfReals) {
     EXPECT_EQ(RoundHalfEven(106.5), 106);
     EXPECT_EQ(RoundHalfEven(-0.5), 0);
     EXPECT_EQ(RoundHalfEven(17.5), 18);
+}
+
+TEST(NumberRule, SaturatingRoundHoldsToTheIntRange) {
+    EXPECT_EQ(RoundToIntSaturating(2.5), 2);
+    EXPECT_EQ(RoundToIntSaturating(-3.5), -4);
+    EXPECT_EQ(RoundToIntSaturating(1e12), 2147483647);
+    EXPECT_EQ(RoundToIntSaturating(-1e12), -2147483647 - 1);
+    EXPECT_EQ(RoundToIntSaturating(std::nan("")), 0);
 }
 
 }  // namespace
