@@ -155,6 +155,17 @@ TEST_F(FormEmbedding, DeletingAListKeepsTheRelatedTableSquareAndAligned) {
     EXPECT_EQ(linked, (std::vector<bool>{true}));
 }
 
+TEST_F(FormEmbedding, DeletionByTheFormsOwnTextOfTheName) {
+    ASSERT_TRUE(form.EmbedObject(type::List, "LIST_1", &list1));
+    ASSERT_TRUE(form.EmbedObject(type::List, "LIST_2", &list2));
+    // The name handed in is the form's own row, which the deletion moves.
+    ASSERT_TRUE(form.NotifyObjectDeleted(form.RelatedLists()[0].name));
+    EXPECT_EQ(EmbeddedNames(), (std::vector<std::string>{"LIST_2"}));
+    EXPECT_EQ(RelatedNames(), (std::vector<std::string>{"LIST_2"}));
+    EXPECT_EQ(form.GetEmbeddedObjectReferenceList(), (std::vector<KomaObject*>{&list2}));
+    EXPECT_TRUE(owner.host.messages.empty());
+}
+
 TEST_F(FormEmbedding, DeletingAnUnknownNameAnswersFalse) {
     ASSERT_TRUE(form.EmbedObject(type::Button, "BUTTON_1", &button));
     EXPECT_FALSE(form.NotifyObjectDeleted("BUTTON_2"));
