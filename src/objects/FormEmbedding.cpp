@@ -70,7 +70,10 @@ void ctlKOMAForm::RemoveEmbeddedObject(int number) {
     }
 }
 
-bool ctlKOMAForm::NotifyObjectDeleted(const std::string& name) {
+bool ctlKOMAForm::NotifyObjectDeleted(const std::string& deletedName) {
+    // A copy: the text handed in may be one of this form's own rows, which
+    // the rows moving below would change under our feet.
+    const std::string name = deletedName;
     const auto hit = std::find_if(embedded_.begin(), embedded_.end(),
                                   [&](const EmbeddedRow& row) { return row.name == name; });
     if (hit == embedded_.end()) return false;
