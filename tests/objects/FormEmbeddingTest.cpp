@@ -57,6 +57,19 @@ protected:
     }
 };
 
+TEST_F(FormEmbedding, FocusFollowsARenamedObject) {
+    form.EmbedObject(type::Button, "BUTTON_1", &button);
+    form.KOMAFocusedObject("BUTTON_1");
+    form.NotifyEmbeddedObjectNameChanged("BUTTON_1", "OK_BUTTON");
+    EXPECT_EQ(form.KOMAFocusedObject(), "OK_BUTTON");
+    EXPECT_EQ(form.GetEmbeddedObjectList()[0].name, "OK_BUTTON");
+    // A rename of another object leaves the focus alone.
+    form.EmbedObject(type::String, "STRING_1", &text);
+    form.NotifyEmbeddedObjectNameChanged("STRING_1", "TITLE");
+    EXPECT_EQ(form.KOMAFocusedObject(), "OK_BUTTON");
+    EXPECT_TRUE(owner.host.messages.empty());
+}
+
 TEST_F(FormEmbedding, EmbeddingAFormIsRefused) {
     ctlKOMAForm other;
     other.KOMAName("FORM_2");
