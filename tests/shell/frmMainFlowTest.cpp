@@ -445,11 +445,27 @@ TEST_F(Flow, SavedStateGoesFalseOnlyByChanges) {
 
 // --- help, log and exit ---------------------------------------------------------------------------
 
-TEST_F(Flow, ReportBugsOpensAMailFromTheProgramsFolder) {
-    host.programDirectory = "/opt/tolva";
-    TriggerMenu("mnuHelpBugs");
-    ASSERT_EQ(host.mailOpened.size(), 1u);
-    EXPECT_EQ(host.mailOpened[0], kMaintainersAddress);
+// A host that notes the working directory of each mail it opens.
+class MailHost : public ScriptedHost {
+public:
+    std::vector<std::string> directories;
+    void OpenMail(const std::string& address, const std::string& directory) override {
+        directories.push_back(directory);
+        ScriptedHost::OpenMail(address, directory);
+    }
+};
+
+TEST(FlowMail, ReportBugsOpensAMailFromTheProgramsFolder) {
+    EnsureStringsLoaded();
+    MailHost mail;
+    mail.programDirectory = "/opt/tolva";
+    frmMain main(mail);
+    main.Load(false);
+    main.findChild<QAction*>("mnuHelpBugs")->trigger();
+    ASSERT_EQ(mail.mailOpened.size(), 1u);
+    EXPECT_EQ(mail.mailOpened[0], kMaintainersAddress);
+    EXPECT_EQ(mail.directories, std::vector<std::string>{"/opt/tolva"});
+    EXPECT_TRUE(mail.messages.empty());
 }
 
 TEST_F(Flow, LogWindowIsShownModallyAndHiddenOnClose) {
