@@ -296,6 +296,19 @@ TEST_F(Flow, ClickOnTheBareCanvasEmptiesObjectsWhileTheFormStays) {
     EXPECT_TRUE(window->DesignSaved());
 }
 
+TEST_F(Flow, SelectionFromTheScreenLeavesTheComboFlags) {
+    // A fresh window: both lists deaf, and a selection does not wake them.
+    window->SelectedObject("", type::None);
+    EXPECT_FALSE(window->FormsComboEnabled());
+    EXPECT_FALSE(window->ObjectsComboEnabled());
+    ASSERT_TRUE(Draw(type::Form));
+    ASSERT_TRUE(window->FormsComboEnabled());
+    window->SelectedObject("FORM_1", type::Form);
+    window->SelectedObject("", type::None);
+    EXPECT_TRUE(window->FormsComboEnabled());
+    EXPECT_TRUE(window->ObjectsComboEnabled());
+}
+
 TEST_F(Flow, SelectedFormIsShownInForms) {
     ASSERT_TRUE(Draw(type::Form));
     ClickTool(2);
