@@ -185,6 +185,18 @@ TEST_F(Flow, ASecondFormReplacesTheFirstInBothCombos) {
     EXPECT_EQ(Items(Objects()), QStringList{"(Form)"});
 }
 
+TEST_F(Flow, FormsListKeepsTheOrderTheFormsWereMadeIn) {
+    // Not sorted: FORM_10 comes last, where a sorted list would put it second.
+    for (int i = 0; i < 10; ++i) {
+        ClickTool(2);
+        ASSERT_TRUE(Draw(type::Form));
+    }
+    QStringList expected;
+    for (int i = 1; i <= 10; ++i) expected << QStringLiteral("FORM_%1").arg(i);
+    EXPECT_EQ(Items(Forms()), expected);
+    EXPECT_EQ(Forms()->currentText(), QStringLiteral("FORM_10"));
+}
+
 // --- choosing in the combos ------------------------------------------------------------
 
 class TwoForms : public MainWindowTest {
