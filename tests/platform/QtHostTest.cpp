@@ -136,6 +136,23 @@ TEST(QtHost, CancelledChooserGivesNothing) {
     EXPECT_FALSE(host.ChooseOpenFile({"", "*.h", "Header Files (*.h)|*.h|", ""}).has_value());
 }
 
+TEST(QtHost, FileChoosersAreTheWindowsCommonDialog) {
+    QtHost host;
+    QString openName, saveName;
+    OnNextModal([&](QWidget* w) {
+        openName = w->objectName();
+        qobject_cast<QDialog*>(w)->reject();
+    });
+    host.ChooseOpenFile({"", "*.txt", "Resource Files (*.txt)|*.txt|", ""});
+    OnNextModal([&](QWidget* w) {
+        saveName = w->objectName();
+        qobject_cast<QDialog*>(w)->reject();
+    });
+    host.ChooseSaveFile({"", "*.h", "Header Files (*.h)|*.h|", ""});
+    EXPECT_EQ(openName, QStringLiteral("CommonDialog1"));
+    EXPECT_EQ(saveName, QStringLiteral("CommonDialog1"));
+}
+
 class QtHostSettings : public ::testing::Test {
 protected:
     void SetUp() override {
