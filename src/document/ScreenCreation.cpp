@@ -40,13 +40,8 @@ bool ctlTolvaScreen::CreateObject(int screenType) {
         host_.MessageBox("Menu object created - shouldn't have happened", "CreateObject");
         return false;
     }
-    std::unique_ptr<KomaObject> made = MakeObject(screenType);
-    if (!made) return false;
-    KomaObject* object = made.get();
-    object->SetOwner(this);
-    object->Visible(false);
-    arrays_[screenType].push_back(std::move(made));
-    object->iIndex(Count(screenType));
+    KomaObject* object = AppendNewObject(screenType);
+    if (!object) return false;
 
     // 3. Its form and its scale.
     if (screenType != type::Form) object->ParentForm(currentFormRef_);

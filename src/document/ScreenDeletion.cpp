@@ -34,18 +34,19 @@ bool ctlTolvaScreen::DeleteObject(int screenType, const std::string& objectName,
             last->ParentForm()->UpdateReferenceList(last->KOMAName(), deleted);
     }
 
+    // No form may keep a reference to the last object, which is about to
+    // go: a form that still holds it (it was not told, or under another
+    // name) now holds the object in the gap, where the last one's model
+    // moves, or nothing when the last object is the one that goes.
+    KomaObject* successor = deleted != last ? deleted : nullptr;
+    for (const auto& form : arrays_[type::Form]) {
+        auto* f = static_cast<ctlKOMAForm*>(form.get());
+        for (KomaObject* ref : f->GetEmbeddedObjectReferenceList())
+            if (ref == last) f->UpdateReferenceList(last->KOMAName(), successor);
+    }
+
     // 4. The last object moves into the gap by a copy of its model.
     if (deleted != last) {
-        if (!notifyParent) {
-            // No form was told: a caller that says so has taken the object
-            // out of its form itself. Still, no form may keep a reference to
-            // the last object, which is about to go.
-            for (const auto& form : arrays_[type::Form]) {
-                auto* f = static_cast<ctlKOMAForm*>(form.get());
-                for (KomaObject* ref : f->GetEmbeddedObjectReferenceList())
-                    if (ref == last) f->UpdateReferenceList(last->KOMAName(), deleted);
-            }
-        }
         deleted->Visible(false);
         deleted->AllowRedraw(false);
         if (!deleted->CopyModelFrom(*last)) return false;
@@ -57,18 +58,26 @@ bool ctlTolvaScreen::DeleteObject(int screenType, const std::string& objectName,
         deleted->iIndex(last->iIndex());
         deleted->KOMAName(last->KOMAName());
         deleted->AllowRedraw(true);
+        if (currentFormRef_ == last) currentFormRef_ = static_cast<ctlKOMAForm*>(deleted);
+        if (selectedObjectRef_ == last) selectedObjectRef_ = deleted;
+    } else if (selectedObjectRef_ == deleted) {
+        selectedObjectRef_ = nullptr;
+    }
 
-        // Whatever pointed at the last object now points at its new place.
-        if (screenType == type::Form) {
+    if (screenType == type::Form) {
+        // An object that the emptying of the form could not take (it stopped
+        // at a kind it does not know, or looked in the wrong array) stays in
+        // the design with no form: its own is gone. Only then do the objects
+        // of the last form follow that form into the gap.
+        for (const auto& kind : arrays_)
+            for (const auto& object : kind)
+                if (object->ParentForm() == deleted) object->ParentForm(nullptr);
+        if (deleted != last) {
             for (const auto& kind : arrays_)
                 for (const auto& object : kind)
                     if (object->ParentForm() == last)
                         object->ParentForm(static_cast<ctlKOMAForm*>(deleted));
         }
-        if (currentFormRef_ == last) currentFormRef_ = static_cast<ctlKOMAForm*>(deleted);
-        if (selectedObjectRef_ == last) selectedObjectRef_ = deleted;
-    } else if (selectedObjectRef_ == deleted) {
-        selectedObjectRef_ = nullptr;
     }
 
     // 5.

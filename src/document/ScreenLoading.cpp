@@ -10,14 +10,9 @@ namespace tolva {
 void ctlTolvaScreen::StartLoading() { screenMode_ = ModeLoading; }
 
 bool ctlTolvaScreen::CreateObjectFromText(int screenType, const GroupList& record) {
-    std::unique_ptr<KomaObject> made = MakeObject(screenType);
-    if (!made) return false;
-    KomaObject* object = made.get();
-    object->SetOwner(this);
     // A loaded object stays hidden until its form is shown.
-    object->Visible(false);
-    arrays_[screenType].push_back(std::move(made));
-    object->iIndex(Count(screenType));
+    KomaObject* object = AppendNewObject(screenType);
+    if (!object) return false;
     object->PCTwipsToTolvaPixels(twipsPerPixel_);
     bool ok = false;
     object->SetFromResText(record, ok);

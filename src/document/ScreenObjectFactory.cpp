@@ -41,4 +41,15 @@ std::unique_ptr<KomaObject> ctlTolvaScreen::MakeObject(int screenType) {
     }
 }
 
+KomaObject* ctlTolvaScreen::AppendNewObject(int screenType) {
+    std::unique_ptr<KomaObject> made = MakeObject(screenType);
+    if (!made) return nullptr;
+    KomaObject* object = made.get();
+    object->SetOwner(this);
+    object->Visible(false);
+    arrays_[screenType].push_back(std::move(made));
+    object->iIndex(Count(screenType));
+    return object;
+}
+
 }  // namespace tolva

@@ -231,6 +231,9 @@ protected:
     // Makes a new object of a screen type (0 to 15 but 10), with its class's
     // defaults; nullptr for the menu and anything else.
     std::unique_ptr<KomaObject> MakeObject(int type);
+    // Makes a new object of the type, hidden and owned by the screen, at the
+    // end of its array with its iIndex; nullptr when the type has no class.
+    KomaObject* AppendNewObject(int type);
 
     Host& host_;
     LogSink& log_;

@@ -28,8 +28,11 @@ std::string EmbeddedWordOfKind(int deviceKind) {
 
 }  // namespace
 
-void ctlKOMAForm::NotifyEmbeddedObjectNameChanged(const std::string& oldName,
-                                                  const std::string& newName) {
+void ctlKOMAForm::NotifyEmbeddedObjectNameChanged(const std::string& oldNameIn,
+                                                  const std::string& newNameIn) {
+    // Copies: the caller may hand in the text of one of the rows changed here.
+    const std::string oldName = oldNameIn;
+    const std::string newName = newNameIn;
     for (auto& row : embedded_)
         if (row.name == oldName) {
             row.name = newName;
@@ -40,6 +43,9 @@ void ctlKOMAForm::NotifyEmbeddedObjectNameChanged(const std::string& oldName,
             row.name = newName;
             break;
         }
+    // The focus follows a renamed object, so that the form's record and its
+    // inspector row keep naming it.
+    if (focusedObject_ == oldName) focusedObject_ = newName;
 }
 
 bool ctlKOMAForm::EmbedObject(int screenType, const std::string& name, KomaObject* object) {
@@ -70,7 +76,10 @@ void ctlKOMAForm::RemoveEmbeddedObject(int number) {
     }
 }
 
-bool ctlKOMAForm::NotifyObjectDeleted(const std::string& name) {
+bool ctlKOMAForm::NotifyObjectDeleted(const std::string& deletedName) {
+    // A copy: the text handed in may be one of this form's own rows, which
+    // the rows moving below would change under our feet.
+    const std::string name = deletedName;
     const auto hit = std::find_if(embedded_.begin(), embedded_.end(),
                                   [&](const EmbeddedRow& row) { return row.name == name; });
     if (hit == embedded_.end()) return false;

@@ -2,6 +2,7 @@
 // has one row per list of the form, each with one flag per list of the form
 // by position; a list's own position is skipped when the row is read or
 // written.
+#include "document/ObjectOwner.h"
 #include "objects/ctlKOMAForm.h"
 
 namespace tolva {
@@ -41,6 +42,21 @@ void ctlKOMAForm::SetRelatedListData(const std::string& listName,
         for (size_t k = 0; k < flags.size() && next < linked.size(); ++k) {
             if (k == own) continue;
             flags[k] = linked[next++];
+        }
+        return;
+    }
+}
+
+void ctlKOMAForm::GetRelatedListIDs(const std::string& listName, std::vector<int>& ids) const {
+    ids.clear();
+    for (size_t own = 0; own < relatedLists_.size(); ++own) {
+        if (relatedLists_[own].name != listName) continue;
+        const auto& flags = relatedLists_[own].linked;
+        for (size_t k = 0; k < relatedLists_.size() && k < flags.size(); ++k) {
+            // A list is never linked to itself, whatever its own flag says.
+            if (k == own || !flags[k]) continue;
+            int id = 0;
+            if (Owner() && Owner()->OwnerGetObjectID(relatedLists_[k].name, id)) ids.push_back(id);
         }
         return;
     }

@@ -110,6 +110,9 @@ public:
                             std::vector<bool>& linked) const;
     void SetRelatedListData(const std::string& listName, const std::vector<std::string>& names,
                             const std::vector<bool>& linked);
+    // The ids, asked of the owner, of the lists linked to this one, in the
+    // order of the table; empty for a list the table does not hold.
+    void GetRelatedListIDs(const std::string& listName, std::vector<int>& ids) const;
 
     // --- the contract -------------------------------------------------------------
     int PropertyRowCount() const override { return kRowCount; }

@@ -62,6 +62,8 @@ std::optional<std::string> QtHost::ChooseFile(const FileChooserRequest& request,
     if (title.isEmpty()) title = save ? QStringLiteral("Save As") : QStringLiteral("Open");
     QFileDialog dialog(DialogParent(), title, QString(),
                        FromCp1252(ToQtFilter(request.filter)));
+    // The main window's one file dialog, by the name its controls go by.
+    dialog.setObjectName(QStringLiteral("CommonDialog1"));
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setDefaultSuffix(FromCp1252(DefaultSuffix(request.defaultExtension)));

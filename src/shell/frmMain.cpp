@@ -453,6 +453,9 @@ void frmMain::cmbObjects_Click() {
         screen.SelectObject(type::Form, form);
         return;
     }
+    // The lookup leaves the type as it was for a name it does not know and
+    // answers yes all the same, so the box below is a safeguard that does
+    // not show today.
     int objectType = 0;
     if (!screen.GetObjectType(chosen, objectType)) {
         host_.MessageBox("Could not find object type", "cmbObjects_Click");

@@ -2,6 +2,7 @@
 // a form takes its objects with it.
 #include "document/ScreenFixture.h"
 #include "objects/ctlKOMAButton.h"
+#include "objects/ctlKOMACheckbox.h"
 
 namespace tolva::testing {
 namespace {
@@ -24,6 +25,13 @@ public:
 class StrangeStyleButton : public ctlKOMAButton {
 public:
     int KOMAControlStyle() override { return 5; }
+};
+
+// A check box that carries a control style word not its own, which reads as
+// 0, a button: the emptying of its form looks for it among the buttons.
+class ForeignStyleCheckbox : public ctlKOMACheckbox {
+public:
+    int KOMAControlStyle() override { return 0; }
 };
 
 class ScreenDeleteThree : public ScreenTest {
@@ -134,6 +142,21 @@ TEST_F(ScreenDeleteThree, WithoutTellingTheFormItsRowStays) {
     // The reference to the object that went now leads to its new place.
     for (KomaObject* ref : Form(1)->GetEmbeddedObjectReferenceList())
         EXPECT_TRUE(ref == Obj(type::Button, 1) || ref == Obj(type::Button, 2));
+}
+
+TEST_F(ScreenDeleteThree, WithoutTellingTheFormNoReferenceOutlivesTheLastObject) {
+    ASSERT_TRUE(screen.DeleteObject(type::Button, "BUTTON_3", false));
+    EXPECT_EQ(screen.NumButtons(), 2);
+    // The row of the object that went stays, with no object behind it.
+    const auto rows = Form(1)->GetEmbeddedObjectList();
+    ASSERT_EQ(rows.size(), 3u);
+    EXPECT_EQ(rows[2].name, "BUTTON_3");
+    EXPECT_EQ(Form(1)->GetEmbeddedObjectReferenceList(),
+              (std::vector<KomaObject*>{Obj(type::Button, 1), Obj(type::Button, 2), nullptr}));
+    // Hiding and showing the form's objects passes over the empty place.
+    ASSERT_TRUE(screen.HideForm("FORM_1"));
+    ASSERT_TRUE(screen.ShowForm("FORM_1"));
+    EXPECT_TRUE(Obj(type::Button, 2)->Visible());
 }
 
 TEST_F(ScreenDeleteThree, DeleteSelectedObjectPassesTheDeviceKindAndFindsNothing) {
@@ -283,6 +306,44 @@ TEST_F(ScreenDelete, UnknownControlStyleStopsTheEmptying) {
     ASSERT_EQ(host.messages.size(), 1u);
     EXPECT_EQ(host.messages[0].text, "Unknown control type");
     EXPECT_EQ(host.messages[0].title, "DeleteAllEmbededObjectsFromForm");
+}
+
+TEST_F(ScreenDelete, ObjectTheEmptyingMissesLosesTheFormThatWent) {
+    ASSERT_TRUE(DrawForm());
+    KomaObject* odd = screen.Inject(type::Checkbox, std::make_unique<ForeignStyleCheckbox>());
+    odd->KOMAName("CHECKBOX_ODD");
+    ASSERT_TRUE(screen.EmbedObjectInForm("FORM_1", type::Checkbox, "CHECKBOX_ODD"));
+    ASSERT_TRUE(screen.DeleteObject(type::Form, "FORM_1"));
+    EXPECT_EQ(screen.NumForms(), 0);
+    // The check box was looked for among the buttons and stays; it must not
+    // keep the form that is gone.
+    ASSERT_EQ(screen.NumCheckboxes(), 1);
+    EXPECT_EQ(odd->ParentForm(), nullptr);
+    // A rename afterwards has no form to tell, and no form is reached.
+    PropertyArray rows;
+    ASSERT_TRUE(screen.GetObjectPropertiesList(rows, type::Checkbox, "CHECKBOX_ODD"));
+    rows.At(3, 1) = PropertyCell("CHECKBOX_LEFT");
+    EXPECT_TRUE(screen.NotifyObjectOfPropertyChange(type::Checkbox, "CHECKBOX_ODD", rows));
+    EXPECT_EQ(odd->KOMAName(), "CHECKBOX_LEFT");
+}
+
+TEST_F(ScreenDelete, ObjectTheEmptyingMissesIsNotHandedToTheFormThatMovesIn) {
+    ASSERT_TRUE(DrawForm());
+    KomaObject* odd = screen.Inject(type::Checkbox, std::make_unique<ForeignStyleCheckbox>());
+    odd->KOMAName("CHECKBOX_ODD");
+    ASSERT_TRUE(screen.EmbedObjectInForm("FORM_1", type::Checkbox, "CHECKBOX_ODD"));
+    ASSERT_TRUE(DrawForm());
+    ASSERT_TRUE(Draw(type::Button, 10, 10, 46, 20));  // on FORM_2
+    ASSERT_TRUE(screen.DeleteObject(type::Form, "FORM_1"));
+    ASSERT_EQ(screen.NumForms(), 1);
+    EXPECT_EQ(Form(1)->KOMAName(), "FORM_2");
+    // FORM_2 took the slot of FORM_1; its own button follows it there, the
+    // check box of FORM_1 does not.
+    EXPECT_EQ(Obj(type::Button, 1)->ParentForm(), Form(1));
+    EXPECT_EQ(odd->ParentForm(), nullptr);
+    std::vector<std::string> names;
+    ASSERT_TRUE(screen.GetEmbeddedObjectNamesFromForm("FORM_2", names));
+    EXPECT_EQ(names, (std::vector<std::string>{"BUTTON_1"}));
 }
 
 TEST_F(ScreenDelete, DeletedTableGivesItsIdToTheNext) {

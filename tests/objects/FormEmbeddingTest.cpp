@@ -2,6 +2,8 @@
 // checkboxes and related lists.
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "document/ObjectTypes.h"
 #include "objects/ctlKOMAButton.h"
 #include "objects/ctlKOMACheckbox.h"
@@ -54,6 +56,19 @@ protected:
             EXPECT_EQ(row.linked.size(), form.RelatedLists().size()) << row.name;
     }
 };
+
+TEST_F(FormEmbedding, FocusFollowsARenamedObject) {
+    form.EmbedObject(type::Button, "BUTTON_1", &button);
+    form.KOMAFocusedObject("BUTTON_1");
+    form.NotifyEmbeddedObjectNameChanged("BUTTON_1", "OK_BUTTON");
+    EXPECT_EQ(form.KOMAFocusedObject(), "OK_BUTTON");
+    EXPECT_EQ(form.GetEmbeddedObjectList()[0].name, "OK_BUTTON");
+    // A rename of another object leaves the focus alone.
+    form.EmbedObject(type::String, "STRING_1", &text);
+    form.NotifyEmbeddedObjectNameChanged("STRING_1", "TITLE");
+    EXPECT_EQ(form.KOMAFocusedObject(), "OK_BUTTON");
+    EXPECT_TRUE(owner.host.messages.empty());
+}
 
 TEST_F(FormEmbedding, EmbeddingAFormIsRefused) {
     ctlKOMAForm other;
@@ -153,6 +168,17 @@ TEST_F(FormEmbedding, DeletingAListKeepsTheRelatedTableSquareAndAligned) {
     ASSERT_TRUE(form.GetRelatedListData("LIST_3", names, linked));
     EXPECT_EQ(names, (std::vector<std::string>{"LIST_2"}));
     EXPECT_EQ(linked, (std::vector<bool>{true}));
+}
+
+TEST_F(FormEmbedding, DeletionByTheFormsOwnTextOfTheName) {
+    ASSERT_TRUE(form.EmbedObject(type::List, "LIST_1", &list1));
+    ASSERT_TRUE(form.EmbedObject(type::List, "LIST_2", &list2));
+    // The name handed in is the form's own row, which the deletion moves.
+    ASSERT_TRUE(form.NotifyObjectDeleted(form.RelatedLists()[0].name));
+    EXPECT_EQ(EmbeddedNames(), (std::vector<std::string>{"LIST_2"}));
+    EXPECT_EQ(RelatedNames(), (std::vector<std::string>{"LIST_2"}));
+    EXPECT_EQ(form.GetEmbeddedObjectReferenceList(), (std::vector<KomaObject*>{&list2}));
+    EXPECT_TRUE(owner.host.messages.empty());
 }
 
 TEST_F(FormEmbedding, DeletingAnUnknownNameAnswersFalse) {
@@ -313,6 +339,45 @@ TEST_F(FormEmbedding, ShortFlagListWritesWhatItHas) {
     ASSERT_TRUE(form.EmbedObject(type::List, "LIST_3", &list3));
     form.SetRelatedListData("LIST_1", {"LIST_2"}, {true});
     EXPECT_EQ(form.RelatedLists()[0].linked, (std::vector<bool>{false, true, false}));
+}
+
+// An owner that knows the ids of a few names.
+class IdOwner : public RecordingOwner {
+public:
+    std::map<std::string, int> ids;
+    bool OwnerGetObjectID(const std::string& name, int& id) override {
+        const auto it = ids.find(name);
+        if (it == ids.end()) return false;
+        id = it->second;
+        return true;
+    }
+};
+
+TEST_F(FormEmbedding, RelatedListIdsAreThoseOfTheLinkedLists) {
+    IdOwner idOwner;
+    idOwner.ids = {{"LIST_1", 11}, {"LIST_2", 12}, {"LIST_3", 13}};
+    form.SetOwner(&idOwner);
+    ASSERT_TRUE(form.EmbedObject(type::List, "LIST_1", &list1));
+    ASSERT_TRUE(form.EmbedObject(type::List, "LIST_2", &list2));
+    ASSERT_TRUE(form.EmbedObject(type::List, "LIST_3", &list3));
+    form.SetRelatedListData("LIST_2", {"LIST_1", "LIST_3"}, {true, true});
+    form.SetRelatedListData("LIST_3", {"LIST_1", "LIST_2"}, {false, true});
+    std::vector<int> ids{99};
+    form.GetRelatedListIDs("LIST_2", ids);
+    EXPECT_EQ(ids, (std::vector<int>{11, 13}));
+    form.GetRelatedListIDs("LIST_3", ids);
+    EXPECT_EQ(ids, (std::vector<int>{12}));
+    form.GetRelatedListIDs("LIST_1", ids);
+    EXPECT_TRUE(ids.empty());
+    ids = {99};
+    form.GetRelatedListIDs("LIST_9", ids);
+    EXPECT_TRUE(ids.empty());
+    // A renamed list is asked for by its new name.
+    form.NotifyEmbeddedObjectNameChanged("LIST_3", "LIST_COLORS");
+    idOwner.ids["LIST_COLORS"] = 23;
+    form.GetRelatedListIDs("LIST_2", ids);
+    EXPECT_EQ(ids, (std::vector<int>{11, 23}));
+    form.SetOwner(&owner);
 }
 
 }  // namespace

@@ -20,16 +20,19 @@ namespace {
 
 // Runs the check on the next modal window once it is up.
 void OnNextModal(std::function<void(QWidget*)> check) {
+    // The attempt holds itself only weakly; each pending timer holds it
+    // strongly, so it is freed once the check has run.
     auto attempt = std::make_shared<std::function<void()>>();
-    *attempt = [check, attempt] {
+    std::weak_ptr<std::function<void()>> weak = attempt;
+    *attempt = [check, weak] {
         QWidget* modal = QApplication::activeModalWidget();
         if (!modal) {
-            QTimer::singleShot(10, *attempt);
+            if (auto again = weak.lock()) QTimer::singleShot(10, [again] { (*again)(); });
             return;
         }
         check(modal);
     };
-    QTimer::singleShot(0, *attempt);
+    QTimer::singleShot(0, [attempt] { (*attempt)(); });
 }
 
 TEST(QtHost, MessageBoxWithEmptyTitleShowsTheApplicationsTitle) {
@@ -134,6 +137,23 @@ TEST(QtHost, CancelledChooserGivesNothing) {
         dialog->reject();
     });
     EXPECT_FALSE(host.ChooseOpenFile({"", "*.h", "Header Files (*.h)|*.h|", ""}).has_value());
+}
+
+TEST(QtHost, FileChoosersAreTheWindowsCommonDialog) {
+    QtHost host;
+    QString openName, saveName;
+    OnNextModal([&](QWidget* w) {
+        openName = w->objectName();
+        qobject_cast<QDialog*>(w)->reject();
+    });
+    host.ChooseOpenFile({"", "*.txt", "Resource Files (*.txt)|*.txt|", ""});
+    OnNextModal([&](QWidget* w) {
+        saveName = w->objectName();
+        qobject_cast<QDialog*>(w)->reject();
+    });
+    host.ChooseSaveFile({"", "*.h", "Header Files (*.h)|*.h|", ""});
+    EXPECT_EQ(openName, QStringLiteral("CommonDialog1"));
+    EXPECT_EQ(saveName, QStringLiteral("CommonDialog1"));
 }
 
 class QtHostSettings : public ::testing::Test {

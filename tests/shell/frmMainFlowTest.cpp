@@ -185,6 +185,18 @@ TEST_F(Flow, ASecondFormReplacesTheFirstInBothCombos) {
     EXPECT_EQ(Items(Objects()), QStringList{"(Form)"});
 }
 
+TEST_F(Flow, FormsListKeepsTheOrderTheFormsWereMadeIn) {
+    // Not sorted: FORM_10 comes last, where a sorted list would put it second.
+    for (int i = 0; i < 10; ++i) {
+        ClickTool(2);
+        ASSERT_TRUE(Draw(type::Form));
+    }
+    QStringList expected;
+    for (int i = 1; i <= 10; ++i) expected << QStringLiteral("FORM_%1").arg(i);
+    EXPECT_EQ(Items(Forms()), expected);
+    EXPECT_EQ(Forms()->currentText(), QStringLiteral("FORM_10"));
+}
+
 // --- choosing in the combos ------------------------------------------------------------
 
 class TwoForms : public MainWindowTest {
@@ -294,6 +306,19 @@ TEST_F(Flow, ClickOnTheBareCanvasEmptiesObjectsWhileTheFormStays) {
     EXPECT_EQ(Forms()->currentText(), QStringLiteral("FORM_1"));
     // A selection is no change of the design.
     EXPECT_TRUE(window->DesignSaved());
+}
+
+TEST_F(Flow, SelectionFromTheScreenLeavesTheComboFlags) {
+    // A fresh window: both lists deaf, and a selection does not wake them.
+    window->SelectedObject("", type::None);
+    EXPECT_FALSE(window->FormsComboEnabled());
+    EXPECT_FALSE(window->ObjectsComboEnabled());
+    ASSERT_TRUE(Draw(type::Form));
+    ASSERT_TRUE(window->FormsComboEnabled());
+    window->SelectedObject("FORM_1", type::Form);
+    window->SelectedObject("", type::None);
+    EXPECT_TRUE(window->FormsComboEnabled());
+    EXPECT_TRUE(window->ObjectsComboEnabled());
 }
 
 TEST_F(Flow, SelectedFormIsShownInForms) {
@@ -445,11 +470,27 @@ TEST_F(Flow, SavedStateGoesFalseOnlyByChanges) {
 
 // --- help, log and exit ---------------------------------------------------------------------------
 
-TEST_F(Flow, ReportBugsOpensAMailFromTheProgramsFolder) {
-    host.programDirectory = "/opt/tolva";
-    TriggerMenu("mnuHelpBugs");
-    ASSERT_EQ(host.mailOpened.size(), 1u);
-    EXPECT_EQ(host.mailOpened[0], kMaintainersAddress);
+// A host that notes the working directory of each mail it opens.
+class MailHost : public ScriptedHost {
+public:
+    std::vector<std::string> directories;
+    void OpenMail(const std::string& address, const std::string& directory) override {
+        directories.push_back(directory);
+        ScriptedHost::OpenMail(address, directory);
+    }
+};
+
+TEST(FlowMail, ReportBugsOpensAMailFromTheProgramsFolder) {
+    EnsureStringsLoaded();
+    MailHost mail;
+    mail.programDirectory = "/opt/tolva";
+    frmMain main(mail);
+    main.Load(false);
+    main.findChild<QAction*>("mnuHelpBugs")->trigger();
+    ASSERT_EQ(mail.mailOpened.size(), 1u);
+    EXPECT_EQ(mail.mailOpened[0], kMaintainersAddress);
+    EXPECT_EQ(mail.directories, std::vector<std::string>{"/opt/tolva"});
+    EXPECT_TRUE(mail.messages.empty());
 }
 
 TEST_F(Flow, LogWindowIsShownModallyAndHiddenOnClose) {

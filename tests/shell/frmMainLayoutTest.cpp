@@ -15,6 +15,7 @@ using Layout = MainWindowTest;
 
 TEST_F(Layout, TitleIsTheApplicationsName) {
     EXPECT_EQ(window->windowTitle(), QStringLiteral("Tolva Resource Editor"));
+    EXPECT_EQ(window->objectName(), QStringLiteral("frmMain"));
 }
 
 struct ControlPlace {

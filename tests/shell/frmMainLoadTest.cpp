@@ -73,6 +73,46 @@ TEST_F(Loading, SettingsAreReadWithNoMessage) {
     EXPECT_TRUE(host.messages.empty());
 }
 
+// A host that notes every settings read with its application key,
+// section, key and default.
+class KeyRecordingHost : public ScriptedHost {
+public:
+    struct Read {
+        std::string application, section, key, defaultValue;
+    };
+    std::vector<Read> reads;
+    std::string GetSetting(const std::string& application, const std::string& section,
+                           const std::string& key, const std::string& defaultValue) override {
+        reads.push_back({application, section, key, defaultValue});
+        return ScriptedHost::GetSetting(application, section, key, defaultValue);
+    }
+};
+
+TEST(LoadingKeys, TheThreeSettingsAreReadUnderTheProgramsKeyWithTheirDefaults) {
+    EnsureStringsLoaded();
+    KeyRecordingHost keys;
+    frmMain main(keys);
+    main.Load(false);
+    ASSERT_EQ(keys.reads.size(), 3u);
+    const char* const names[] = {"ShowGrid", "GridInterval", "ShowBitmapWarning"};
+    const char* const defaults[] = {"1", "55", "1"};
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(keys.reads[i].application, "TolvaDesigner") << names[i];
+        EXPECT_EQ(keys.reads[i].section, "Settings") << names[i];
+        EXPECT_EQ(keys.reads[i].key, names[i]);
+        EXPECT_EQ(keys.reads[i].defaultValue, defaults[i]) << names[i];
+    }
+}
+
+TEST_F(Loading, LoadingLeavesTheHeaderPath) {
+    // Only the start-up empties the header's path; the window's loading
+    // empties the resource file's alone.
+    HeaderFilePath = "design.h";
+    Open();
+    EXPECT_EQ(HeaderFilePath, "design.h");
+    HeaderFilePath.clear();
+}
+
 TEST_F(Loading, TheLogWindowIsLoadedButNotShown) {
     frmLog* log = window->LogWindow();
     ASSERT_NE(log, nullptr);
