@@ -61,6 +61,7 @@ struct DrawElement {
     std::string text;
     DrawFont font;
     TextAlignment alignment = TextAlignment::Left;
+    bool middle = false;  // centred from top to bottom; else from the top
     DrawColor foreColor = kBlack;
     bool opaque = false;
     DrawColor backColor = kWhite;

@@ -11,6 +11,7 @@ DrawElementList KomaObject::GetDrawElements() const {
     outline.fillColor = kWhite;
     DrawElement label = TextElement("lblName", box, KOMAName());
     label.alignment = TextAlignment::Center;
+    label.middle = true;
     return {outline, label};
 }
 

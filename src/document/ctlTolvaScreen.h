@@ -13,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "canvas/CanvasHit.h"
 #include "canvas/CanvasRect.h"
 #include "canvas/ScreenCanvasState.h"
 #include "document/KomaObject.h"
@@ -120,6 +121,12 @@ public:
 
     // Nodes, band bars, editor line and dots, for the canvas to paint.
     const ScreenCanvasState& Canvas() const { return canvas_; }
+
+    // What the point (screen units) hits: a visible node, else the topmost
+    // visible object whose rectangle holds it, else the bare canvas.
+    CanvasHit HitTest(double x, double y) const;
+    // True while the object belongs to the screen (in any array).
+    bool HoldsObject(const KomaObject* object) const;
 
     // The canvas's mouse, in screen units: on the bare canvas relative to
     // the canvas, on a node (0 to 9, see canvas/SelectionNodes.h) relative
