@@ -42,6 +42,7 @@ TEST(DefaultDrawing, OutlinedBoxWithTheNameAcrossTheObject) {
     ASSERT_EQ(elements.size(), 2u);
     EXPECT_EQ(elements[0].kind, DrawElementKind::Shape);
     EXPECT_TRUE(elements[0].outline);
+    EXPECT_TRUE(elements[0].filled);
     EXPECT_EQ(elements[0].rect, (CanvasRect{0, 0, 1000, 400}));
     EXPECT_EQ(elements[1].kind, DrawElementKind::TextBox);
     EXPECT_EQ(elements[1].text, "BUTTON_7");
@@ -56,6 +57,8 @@ TEST(DefaultDrawing, FollowsTheSizeAndName) {
     const DrawElementList elements = form.GetDrawElements();
     ASSERT_FALSE(elements.empty());
     EXPECT_EQ(elements[0].rect.width, 5855);
+    // The grid shows through a form.
+    EXPECT_FALSE(elements[0].filled);
     EXPECT_EQ(elements.back().text, "Main");
 }
 

@@ -17,7 +17,7 @@ namespace tolva {
 
 namespace {
 
-const QColor kDotColor(0x60, 0x60, 0x60);
+const QColor kDotColor(0x80, 0x80, 0x80);
 
 }  // namespace
 
@@ -84,10 +84,13 @@ void ScreenPainter::PaintGrid(QPainter& painter, const ctlTolvaScreen& screen) {
                 dots.perSide, static_cast<long long>((border.height - dots.originY + half) /
                                                      dots.spacing) + 1);
             gridPoints_.reserve(std::max(0, across) * std::max(0, down));
+            // Each dot on a whole pixel, so that all of them look alike.
             for (int row = 0; row < down; ++row)
-                for (int column = 0; column < across; ++column)
-                    gridPoints_.append(ToPixels(dots.originX + double(column) * dots.spacing,
-                                                dots.originY + double(row) * dots.spacing));
+                for (int column = 0; column < across; ++column) {
+                    const QPointF at = ToPixels(dots.originX + double(column) * dots.spacing,
+                                                dots.originY + double(row) * dots.spacing);
+                    gridPoints_.append(QPointF(std::round(at.x()), std::round(at.y())));
+                }
         } else {
             // A spacing of 0 or less puts every dot on the first point.
             gridPoints_.append(ToPixels(dots.originX, dots.originY));
@@ -101,7 +104,7 @@ void ScreenPainter::PaintGrid(QPainter& painter, const ctlTolvaScreen& screen) {
     } else if (!gridPoints_.isEmpty()) {
         // All dots in one pass.
         QPen pen(kDotColor);
-        pen.setWidthF(std::max(1.0, ToPixels(kGridDotSize)));
+        pen.setWidthF(std::max(1.0, std::round(ToPixels(kGridDotSize))));
         pen.setCapStyle(Qt::SquareCap);
         painter.setPen(pen);
         painter.drawPoints(gridPoints_.constData(), gridPoints_.size());

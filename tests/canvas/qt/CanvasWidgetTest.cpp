@@ -181,15 +181,17 @@ TEST_F(CanvasWidgetTest, PaintingTheWindowShowsTheSelectedButtonsNodes) {
     DrawFormAndButton();
     const QImage image = Canvas()->grab().toImage();
     ASSERT_FALSE(image.isNull());
-    // A node is blue (stored 0xC00000), the margin grey (C0C0C0), the form
-    // a white box over the grid.
+    // A node is blue (stored 0xC00000), the margin grey (C0C0C0), the
+    // button a white box; the device area (E0E0E0) shows through the form.
     const CanvasRect node = Screen().Canvas().nodes[node::TopLeft].rect;
     const QPointF inNode = CanvasWidget::ToPixels(node.left + 67, node.top + 67);
     const qreal ratio = image.devicePixelRatio();
     EXPECT_EQ(image.pixelColor((inNode * ratio).toPoint()), QColor(0, 0, 0xC0));
     EXPECT_EQ(image.pixelColor(QPoint(3, 3) * ratio), QColor(0xC0, 0xC0, 0xC0));
     EXPECT_EQ(image.pixelColor(QPoint(410, 410) * ratio), QColor(0xC0, 0xC0, 0xC0));
-    EXPECT_EQ(image.pixelColor(QPoint(300, 100) * ratio), QColor(Qt::white));
+    const QPointF inButton = CanvasWidget::ToPixels(Button()->Left() + 30, Button()->Top() + 30);
+    EXPECT_EQ(image.pixelColor((inButton * ratio).toPoint()), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(QPoint(300, 103) * ratio), QColor(0xE0, 0xE0, 0xE0));
 }
 
 }  // namespace
