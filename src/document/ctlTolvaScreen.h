@@ -148,7 +148,7 @@ public:
                       double y2);
     bool MoveObject(int type, const std::string& name, double left, double top);
     // Puts the selection nodes round the object (the two line nodes when
-    // lineFlag is set). Filled in by the canvas half.
+    // lineFlag is set); they show only once ShowNodes shows them.
     void PlaceNodes(KomaObject& object, bool lineFlag);
 
     bool GetObjectType(const std::string& name, int& type) const;
@@ -223,7 +223,7 @@ protected:
     void Log(const std::string& line) const;
     // Shows or hides the selection nodes: with lineFlag the two line nodes,
     // else the eight round a box; the others are hidden. ShowNodes(false,
-    // true) hides them all. Filled in by the canvas half.
+    // true) hides them all.
     void ShowNodes(bool show, bool lineFlag);
 
     // The rubber band: with show, four bars round the rectangle of the two

@@ -159,7 +159,8 @@ TEST_F(ScreenGrid, OnlyResizeClampsTheRightEdgeTo159) {
     ASSERT_TRUE(screen.MoveObject(type::Button, "BUTTON_1", 6055, 6055));
     EXPECT_EQ(Obj(type::Button, 1)->KOMABoundsX(), 10);
     EXPECT_EQ(host.MessageLines(),
-              (std::vector<std::string>{"KOMABoundsX: Invalid value", "KOMABoundsY: Invalid value"}));
+              (std::vector<std::string>{"KOMABoundsX: Invalid value",
+                                        "KOMABoundsY: Invalid value"}));
     host.ClearRecord();
     // ResizeObject clamps.
     ASSERT_TRUE(screen.ResizeObject(type::Button, "BUTTON_1", 6055, 6055, 6055, 6055));

@@ -92,11 +92,23 @@ void CanvasWidget::Deliver(const CanvasHit& target, Phase phase, int button, int
 }
 
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {
-    // A second button while one is held goes nowhere.
-    if (captured_) return;
     const QPointF at = ToUnits(event->position());
     const int button = ButtonCode(event->button());
     const int shift = ShiftCode(event->modifiers());
+    if (captured_) {
+        // A second button while one is held goes nowhere.
+        const bool heldStill = event->button() != captureButton_ &&
+                               (event->buttons() & captureButton_);
+        if (heldStill) return;
+        // The release of the last press was lost (a window took the mouse
+        // in between): the element that took the press gets it now.
+        const CanvasHit target = capture_;
+        const int lost = ButtonCode(captureButton_);
+        captured_ = false;
+        captureButton_ = Qt::NoButton;
+        capture_ = CanvasHit{};
+        RunGuarded([&] { Deliver(target, Phase::Up, lost, shift, at); });
+    }
     RunGuarded([&] {
         capture_ = screen_.HitTest(at.x(), at.y());
         captured_ = true;

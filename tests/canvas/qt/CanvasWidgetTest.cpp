@@ -194,5 +194,33 @@ TEST_F(CanvasWidgetTest, PaintingTheWindowShowsTheSelectedButtonsNodes) {
     EXPECT_EQ(image.pixelColor(QPoint(300, 103) * ratio), QColor(0xE0, 0xE0, 0xE0));
 }
 
+TEST_F(CanvasWidgetTest, SecondButtonWhileOneIsHeldGoesNowhere) {
+    DrawFormAndButton();
+    const double left = Button()->Left();
+    Press({50, 50});
+    QTest::mousePress(Canvas(), Qt::RightButton, Qt::NoModifier, QPoint(5, 5));
+    QTest::mouseRelease(Canvas(), Qt::RightButton, Qt::NoModifier, QPoint(5, 5));
+    EXPECT_EQ(Screen().ScreenMode(), ctlTolvaScreen::ModeMoving);
+    MoveTo({80, 50});
+    Release({80, 50});
+    EXPECT_EQ(Screen().ScreenMode(), ctlTolvaScreen::ModeIdle);
+    EXPECT_GT(Button()->Left(), left);
+}
+
+TEST_F(CanvasWidgetTest, LostReleaseIsDeliveredBeforeTheNextPress) {
+    DrawFormAndButton();
+    Press({50, 50});  // its release never comes
+    ASSERT_EQ(Screen().ScreenMode(), ctlTolvaScreen::ModeMoving);
+    QTest::mouseClick(Canvas(), Qt::LeftButton, {}, QPoint(100, 5));
+    EXPECT_EQ(Screen().ScreenMode(), ctlTolvaScreen::ModeIdle);
+    // The lost release selected the button, the click on the margin then
+    // cleared the selection.
+    EXPECT_EQ(Screen().SelectedObjectType(), type::None);
+    // Hovering over the button moves nothing.
+    const double left = Button()->Left();
+    MoveTo({60, 50});
+    EXPECT_EQ(Button()->Left(), left);
+}
+
 }  // namespace
 }  // namespace tolva::testing
