@@ -225,6 +225,32 @@ TEST_F(ScreenNodes, LineNodeDragMovesOneEndAndKeepsHalfANodeOffset) {
               (std::vector<std::string>{"Changed LINE_1,8", "Selected LINE_1,8"}));
 }
 
+TEST_F(ScreenNodes, FirstNodeOfAFallingLineMovesTheStart) {
+    Arm(type::Line);
+    DragOnCanvas(G(5), G(5), G(15), G(15));  // falls to the right
+    auto* line = static_cast<ctlKOMALine*>(Obj(type::Line, 1));
+    ASSERT_NE(line, nullptr);
+    ASSERT_FALSE(line->PositiveSlope());
+    ASSERT_TRUE(screen.SelectObject(type::Line, "LINE_1"));
+    EXPECT_EQ(Node(node::Line1).rect, (CanvasRect{662.5, 662.5, 135, 135}));
+    EXPECT_EQ(Node(node::Line2).rect, (CanvasRect{1722.5, 1722.5, 135, 135}));
+
+    PressNode(node::Line1);
+    EXPECT_EQ(screen.RubberBand().X1, 1722);
+    EXPECT_EQ(screen.RubberBand().Y1, 1722);
+    EXPECT_EQ(screen.RubberBand().X2, 662);
+    EXPECT_EQ(screen.RubberBand().Y2, 662);
+    MoveNodeTo(node::Line1, 300, 300);
+    EXPECT_FALSE(screen.Canvas().editorLine.positiveSlope);
+    ReleaseNode(node::Line1, 300, 300);
+    EXPECT_EQ(Size(*line), "306,306 1416x1416");
+    EXPECT_FALSE(line->PositiveSlope());
+    EXPECT_EQ(line->KOMAStartX(), 3);
+    EXPECT_EQ(line->KOMAStartY(), 3);
+    EXPECT_EQ(line->KOMAEndX(), 42);
+    EXPECT_EQ(line->KOMAEndY(), 42);
+}
+
 TEST_F(ScreenNodes, NodePressWithNothingSelectedDoesNothing) {
     screen.SelectObject(type::None, "");
     PressNode(node::BottomRight);
