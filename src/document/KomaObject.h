@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "canvas/DrawElement.h"
 #include "document/TextHelpers.h"
 #include "inspector/PropertyArray.h"
 
@@ -129,6 +130,12 @@ public:
     // The per-type copy of every model property of other (a same-type
     // object), ParentForm included. False when it fails.
     virtual bool CopyModelFrom(const KomaObject& other);
+
+    // --- drawing ----------------------------------------------------------------
+    // The object laid out into its draw elements, back to front, in screen
+    // units relative to its top left corner. A kind with no drawing of its
+    // own shows as a plain outlined box with its name.
+    virtual DrawElementList GetDrawElements() const;
 
     // --- events from the canvas ---------------------------------------------
     // A mouse press, move or release on the object (or on a label covering it).

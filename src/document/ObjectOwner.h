@@ -33,6 +33,10 @@ public:
     virtual void ObjectMoved(KomaObject& object, int x, int y) = 0;
     virtual void ObjectResized(KomaObject& object, int width, int height) = 0;
     virtual void ObjectPicChanged(KomaObject& object) = 0;
+    // A line's end points changed (device pixels): the owner sets the line's
+    // box from them. Only a line raises it.
+    virtual void ObjectLineResized(KomaObject& object, int startX, int startY, int endX,
+                                   int endY) {}
 
     // Stacking order: a stamp larger than every other for the front, smaller
     // than every other for the back.

@@ -1,10 +1,12 @@
 // MoveObject and ResizeObject: an object takes a new place or size on the
-// canvas, and its device values follow from the canvas values.
+// canvas, and its device values follow from the canvas values. A line's end
+// points follow its box.
 #include <algorithm>
 #include <cmath>
 
 #include "document/ScreenUnits.h"
 #include "document/ctlTolvaScreen.h"
+#include "objects/ctlKOMALine.h"
 
 namespace tolva {
 
@@ -18,10 +20,9 @@ bool ctlTolvaScreen::MoveObject(int screenType, const std::string& name, double 
     object->KOMABoundsX(PixelFromScreenPosition(left, canvasWidth_));
     object->KOMABoundsY(PixelFromScreenPosition(top, canvasHeight_));
 
-    // A line's start and end points follow its box here once the line
-    // carries them (KOMAStartX = KOMABoundsX, KOMAEndX = KOMABoundsX +
-    // KOMAWidth, the Y values by PositiveSlope, each clamped to 0..159; a
-    // box under 40 units high or wide makes the line horizontal or vertical).
+    if (screenType == type::Line) {
+        if (auto* line = dynamic_cast<ctlKOMALine*>(object)) line->SetEndsFromBox();
+    }
 
     Log("Object moved: " + name);
     return true;
@@ -34,10 +35,10 @@ bool ctlTolvaScreen::ResizeObject(int screenType, const std::string& name, doubl
 
     // A line may shrink to nothing; anything else keeps at least one pixel.
     // The line test looks at the selection and the armed tool, not at the
-    // object's own type.
+    // object's own type; a line then takes the slope of the band's line.
     const bool asLine = selectedObjectType_ == type::Line || createObjectType_ == type::Line;
-    // The drawn line's slope goes to the object here once the canvas half
-    // has its editor line (PositiveSlope of ctlEditorLine).
+    auto* line = dynamic_cast<ctlKOMALine*>(object);
+    if (asLine && line) line->PositiveSlope(canvas_.editorLine.positiveSlope);
     const int smallest = asLine ? 0 : 1;
 
     if (object->VertResizeOK()) object->Height(std::abs(y2 - y1));
@@ -56,8 +57,7 @@ bool ctlTolvaScreen::ResizeObject(int screenType, const std::string& name, doubl
             ClampPixel(PixelFromScreenPosition(object->Left(), canvasWidth_), 0, 159));
         object->KOMABoundsY(
             ClampPixel(PixelFromScreenPosition(object->Top(), canvasHeight_), 0, 159));
-        // A line's start and end points follow here as in MoveObject, once the
-        // line carries them.
+        if (line) line->SetEndsFromBox();
     }
 
     Log("Resized: " + name);

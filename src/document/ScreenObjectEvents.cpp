@@ -1,6 +1,6 @@
 // What the screen does with the events its objects raise: the delete key,
-// the changes of place and size from the inspector, a changed picture, and
-// the mouse.
+// the changes of place and size from the inspector and a changed picture.
+// The mouse is in ScreenMouse.cpp.
 #include "document/Host.h"
 #include "document/ScreenEvents.h"
 #include "document/ScreenUnits.h"
@@ -8,25 +8,6 @@
 #include "document/ctlTolvaScreen.h"
 
 namespace tolva {
-
-// --- mouse ---------------------------------------------------------------------------
-// The full mouse protocol (moving by drag, drawing through a form, node
-// drags) belongs to the canvas half. Until it is in, a mouse event of an
-// object goes on to the main window as it is, in canvas coordinates.
-
-void ctlTolvaScreen::ObjectMouseDown(KomaObject& object, int button, int shift, double x,
-                                     double y) {
-    if (events_) events_->MouseDown(button, shift, x + object.Left(), y + object.Top());
-}
-
-void ctlTolvaScreen::ObjectMouseMove(KomaObject& object, int button, int shift, double x,
-                                     double y) {
-    if (events_) events_->MouseMove(button, shift, x + object.Left(), y + object.Top());
-}
-
-void ctlTolvaScreen::ObjectMouseUp(KomaObject& object, int button, int shift, double x, double y) {
-    if (events_) events_->MouseUp(button, shift, x + object.Left(), y + object.Top());
-}
 
 // --- selection and deletion -------------------------------------------------------------
 
@@ -67,8 +48,8 @@ void ctlTolvaScreen::ObjectMoved(KomaObject& object, int x, int y) {
 }
 
 void ctlTolvaScreen::ObjectResized(KomaObject& object, int width, int height) {
-    // A line reports its resize by its two end points, not by a size; that
-    // path joins here with the line's own event.
+    // A line reports its resize by its two end points instead, through
+    // ObjectLineResized (ScreenLine.cpp).
     if (object.KOMABoundsX() + width >= 161) width = 160 - object.KOMABoundsX();
     if (object.KOMABoundsY() + height >= 161) height = 160 - object.KOMABoundsY();
     object.Width(ScreenLengthFromPixel(width, twipsPerPixel_));

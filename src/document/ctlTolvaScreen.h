@@ -4,14 +4,18 @@
 // selected object, names and numbers objects, adds and removes them, and
 // tells the main window of every change through ScreenEvents.
 //
-// The canvas half (coordinates, grid, mouse protocol) lives in the same class
-// and is added by the canvas code; the file text by the resource-file code.
+// The canvas half (frame, grid, nodes, rubber band and the mouse protocol)
+// lives in the same class, in the Screen*.cpp files of the canvas; the file
+// text comes from the resource-file code.
 #include <array>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "canvas/CanvasHit.h"
+#include "canvas/CanvasRect.h"
+#include "canvas/ScreenCanvasState.h"
 #include "document/KomaObject.h"
 #include "document/ObjectOwner.h"
 #include "document/ObjectTypes.h"
@@ -95,6 +99,45 @@ public:
     double CanvasHeight() const { return canvasHeight_; }
     void SetCanvasSize(double width, double height);
 
+    // --- the canvas half --------------------------------------------------------
+    // shpBorder, the frame: the whole canvas. shpScreen, the device area: the
+    // canvas less a margin of 200 on every side.
+    CanvasRect BorderRect() const;
+    CanvasRect DeviceAreaRect() const;
+
+    // The grid. SetGrid takes the show flag; with the flag False it hides
+    // the dots and drops the interval, so the snap goes on with the old
+    // spacing. ShowGrid(True) runs SetGrid with the current interval,
+    // ShowGrid(False) does nothing. Setting GridInterval runs SetGrid with
+    // the current GridVisible.
+    bool GridVisible() const { return canvas_.gridVisible; }
+    int GridInterval() const { return canvas_.gridInterval; }
+    void GridInterval(int interval);
+    int GridSpacing() const { return canvas_.gridSpacing; }
+    void SetGrid(int interval, bool visible);
+    void ShowGrid(bool visible);
+    // Snaps X and Y to the closest grid point.
+    void GetClosestNode(double& x, double& y) const;
+
+    // Nodes, band bars, editor line and dots, for the canvas to paint.
+    const ScreenCanvasState& Canvas() const { return canvas_; }
+
+    // What the point (screen units) hits: a visible node, else the topmost
+    // visible object whose rectangle holds it, else the bare canvas.
+    CanvasHit HitTest(double x, double y) const;
+    // True while the object belongs to the screen (in any array).
+    bool HoldsObject(const KomaObject* object) const;
+
+    // The canvas's mouse, in screen units: on the bare canvas relative to
+    // the canvas, on a node (0 to 9, see canvas/SelectionNodes.h) relative
+    // to the node. A press on an object goes to the object's own MouseDown.
+    void CanvasMouseDown(int button, int shift, double x, double y);
+    void CanvasMouseMove(int button, int shift, double x, double y);
+    void CanvasMouseUp(int button, int shift, double x, double y);
+    void NodeMouseDown(int nodeNumber, int button, int shift, double x, double y);
+    void NodeMouseMove(int nodeNumber, int button, int shift, double x, double y);
+    void NodeMouseUp(int nodeNumber, int button, int shift, double x, double y);
+
     // --- operations ----------------------------------------------------------
     bool CreateObject(int type);
     bool SelectObject(int type, const std::string& name, KomaObject* ref = nullptr);
@@ -105,7 +148,7 @@ public:
                       double y2);
     bool MoveObject(int type, const std::string& name, double left, double top);
     // Puts the selection nodes round the object (the two line nodes when
-    // lineFlag is set). Filled in by the canvas half.
+    // lineFlag is set); they show only once ShowNodes shows them.
     void PlaceNodes(KomaObject& object, bool lineFlag);
 
     bool GetObjectType(const std::string& name, int& type) const;
@@ -167,6 +210,8 @@ public:
     void ObjectDeleted(KomaObject& object) override;
     void ObjectMoved(KomaObject& object, int x, int y) override;
     void ObjectResized(KomaObject& object, int width, int height) override;
+    void ObjectLineResized(KomaObject& object, int startX, int startY, int endX,
+                           int endY) override;
     void ObjectPicChanged(KomaObject& object) override;
     long long NextStackStamp(bool toFront) override;
 
@@ -178,8 +223,17 @@ protected:
     void Log(const std::string& line) const;
     // Shows or hides the selection nodes: with lineFlag the two line nodes,
     // else the eight round a box; the others are hidden. ShowNodes(false,
-    // true) hides them all. Filled in by the canvas half.
+    // true) hides them all.
     void ShowNodes(bool show, bool lineFlag);
+
+    // The rubber band: with show, four bars round the rectangle of the two
+    // corners or, with lineFlag, the editor line across it; without show
+    // both are hidden.
+    void DrawBand(bool show, double x1, double y1, double x2, double y2, bool lineFlag);
+    // A press on a node: resizing starts with the band of the node.
+    void StartNodeDrag(double x1, double y1, double x2, double y2, KomaObject& object);
+    // The release of a node: the resize, or its refusal, and the selection.
+    void EndNodeDrag();
 
     // Makes a new object of a screen type (0 to 15 but 10), with its class's
     // defaults; nullptr for the menu and anything else.
@@ -206,6 +260,7 @@ protected:
     std::string currentDesignForm_;
     ctlKOMAForm* currentFormRef_ = nullptr;
     Band band_;
+    ScreenCanvasState canvas_;
 
     double canvasWidth_ = 0;
     double canvasHeight_ = 0;

@@ -12,6 +12,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "canvas/qt/CanvasWidget.h"
 #include "document/Host.h"
 #include "document/Numbers.h"
 #include "document/ObjectTypes.h"
@@ -77,9 +78,7 @@ void frmMain::BuildControls() {
     Label2_->setObjectName("Label2");
     Label2_->setGeometry(UnitsRect(120, 600, 975, 255));
 
-    ctlScreen_ = new QFrame(client);
-    ctlScreen_->setObjectName("ctlScreen");
-    ctlScreen_->setFrameShape(QFrame::Box);
+    ctlScreen_ = new CanvasWidget(*screen_, client);
     ctlScreen_->setGeometry(UnitsRect(120, 960, 6255, 6255));
 
     lblForms_ = new QLabel("Forms", client);
@@ -253,8 +252,12 @@ void frmMain::SetGrid(int interval, bool visible) {
 }
 
 void frmMain::ForwardGridToScreen() {
-    // The screen takes the grid once it draws one; until then the window
-    // keeps the values.
+    screen_->SetGrid(gridInterval_, gridVisible_);
+    RefreshScreen();
+}
+
+void frmMain::RefreshScreen() {
+    if (ctlScreen_) ctlScreen_->update();
 }
 
 void frmMain::AddLogLine(const std::string& line) {
@@ -281,6 +284,7 @@ void frmMain::PressOnly(int index) {
 }
 
 void frmMain::ToolClick(int index) {
+    RefreshScreen();
     if (index < 1 || index > kToolCount) return;
     PressOnly(index);
     ctlTolvaScreen& screen = *screen_;
@@ -327,6 +331,7 @@ void frmMain::MouseMove(int, int, double, double) {
 void frmMain::MouseUp(int, int, double, double) { ResetToPointer(); }
 
 void frmMain::CreatedObject(const std::string& name, int objectType) {
+    RefreshScreen();
     formsComboEnabled_ = false;
     objectsComboEnabled_ = false;
     ctlTolvaScreen& screen = *screen_;
@@ -344,6 +349,7 @@ void frmMain::CreatedObject(const std::string& name, int objectType) {
 }
 
 void frmMain::ChangedObject(const std::string& name, int objectType) {
+    RefreshScreen();
     formsComboEnabled_ = false;
     objectsComboEnabled_ = false;
     ctlTolvaScreen& screen = *screen_;
@@ -360,6 +366,7 @@ void frmMain::ChangedObject(const std::string& name, int objectType) {
 }
 
 void frmMain::DeletedObject(const std::string&, int objectType) {
+    RefreshScreen();
     formsComboEnabled_ = false;
     objectsComboEnabled_ = false;
     ctlTolvaScreen& screen = *screen_;
@@ -377,6 +384,7 @@ void frmMain::DeletedObject(const std::string&, int objectType) {
 }
 
 void frmMain::SelectedObject(const std::string& name, int objectType) {
+    RefreshScreen();
     if (objectType == type::Form) {
         if (ToCp1252(cmbForms_->currentText()) != name) SetComboText(cmbForms_, name);
     } else if (objectType == type::None) {
@@ -430,6 +438,7 @@ void frmMain::UpdateObjectsCombo() {
 }
 
 void frmMain::cmbForms_Click() {
+    RefreshScreen();
     if (!formsComboEnabled_) return;
     ctlTolvaScreen& screen = *screen_;
     const std::string chosen = ToCp1252(cmbForms_->currentText());
@@ -444,6 +453,7 @@ void frmMain::cmbForms_Click() {
 }
 
 void frmMain::cmbObjects_Click() {
+    RefreshScreen();
     if (!objectsComboEnabled_) return;
     ctlTolvaScreen& screen = *screen_;
     const std::string chosen = ToCp1252(cmbObjects_->currentText());
@@ -468,6 +478,7 @@ void frmMain::cmbObjects_Click() {
 // --- buttons -------------------------------------------------------------------------
 
 void frmMain::cmdDelete_Click() {
+    RefreshScreen();
     ctlTolvaScreen& screen = *screen_;
     const int selectedType = screen.SelectedObjectType();
     const std::string selectedName = screen.SelectedObjectName();
@@ -522,6 +533,7 @@ void frmMain::mnuFileSaveAs_Click() {
 void frmMain::mnuExit_Click() { close(); }
 
 void frmMain::mnuEditDelete_Click() {
+    RefreshScreen();
     // Deletes at once, with no question even for a form; the saved state is
     // left to the events the deletion raises.
     ctlTolvaScreen& screen = *screen_;

@@ -21,6 +21,7 @@ class QToolButton;
 
 namespace tolva {
 
+class CanvasWidget;
 class Host;
 class SortedComboBox;
 class ctlTolvaScreen;
@@ -49,6 +50,7 @@ public:
     bool GridVisible() const { return gridVisible_; }
 
     ctlTolvaScreen& Screen() { return *screen_; }
+    CanvasWidget* ScreenWidget() const { return ctlScreen_; }
     frmLog* LogWindow() const { return log_; }
     Host& WindowHost() { return host_; }
 
@@ -90,6 +92,8 @@ private:
     // Hands the grid to the screen.
     void SetGrid(int interval, bool visible);
     void ForwardGridToScreen();
+    // Repaints the design screen after a change made outside its own mouse.
+    void RefreshScreen();
 
     // Shows the tool as the only pressed one.
     void PressOnly(int index);
@@ -143,7 +147,7 @@ private:
     QToolBar* tlbrObjects_ = nullptr;
     QAction* tools_[17] = {};
     QLabel* Label2_ = nullptr;
-    QFrame* ctlScreen_ = nullptr;
+    CanvasWidget* ctlScreen_ = nullptr;
     QLabel* lblForms_ = nullptr;
     QComboBox* cmbForms_ = nullptr;
     QLabel* lblObjects_ = nullptr;

@@ -97,19 +97,6 @@ TEST_F(ScreenObjectEvents, ChangedPictureIsAChangeOutsideALoad) {
     EXPECT_TRUE(events.lines.empty());
 }
 
-TEST_F(ScreenObjectEvents, MouseEventsGoOnInCanvasUnits) {
-    ASSERT_TRUE(DrawForm());
-    ASSERT_TRUE(Draw(type::Button, 10, 20, 46, 20));
-    KomaObject* button = Obj(type::Button, 1);
-    events.lines.clear();
-    button->MouseDown(1, 0, 15, 30);
-    button->MouseMove(1, 2, 16, 31);
-    button->MouseUp(1, 0, 17, 32);
-    EXPECT_EQ(events.lines,
-              (std::vector<std::string>{"MouseDown 1,0,581,962", "MouseMove 1,2,582,963",
-                                        "MouseUp 1,0,583,964"}));
-}
-
 // --- changes from the inspector ------------------------------------------------------
 
 TEST_F(ScreenObjectEvents, SizeRowThatIsNoNumberIsRefusedAndEarlierRowsStay) {

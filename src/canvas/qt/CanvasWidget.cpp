@@ -1,0 +1,168 @@
+#include "canvas/qt/CanvasWidget.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "document/ctlTolvaScreen.h"
+#include "shell/RunGuarded.h"
+
+namespace tolva {
+
+CanvasWidget::CanvasWidget(ctlTolvaScreen& screen, QWidget* parent)
+    : QWidget(parent), screen_(screen) {
+    setObjectName("ctlScreen");
+    setMouseTracking(true);
+    setFocusPolicy(Qt::ClickFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+QPointF CanvasWidget::ToUnits(const QPointF& pixels) { return pixels * kUnitsPerPixel; }
+
+QPointF CanvasWidget::ToPixels(double x, double y) {
+    return QPointF(x / kUnitsPerPixel, y / kUnitsPerPixel);
+}
+
+int CanvasWidget::ButtonCode(Qt::MouseButtons buttons) {
+    int code = 0;
+    if (buttons & Qt::LeftButton) code |= 1;
+    if (buttons & Qt::RightButton) code |= 2;
+    if (buttons & Qt::MiddleButton) code |= 4;
+    return code;
+}
+
+int CanvasWidget::ShiftCode(Qt::KeyboardModifiers modifiers) {
+    int code = 0;
+    if (modifiers & Qt::ShiftModifier) code |= 1;
+    if (modifiers & Qt::ControlModifier) code |= 2;
+    if (modifiers & Qt::AltModifier) code |= 4;
+    return code;
+}
+
+void CanvasWidget::paintEvent(QPaintEvent*) {
+    RunGuarded([this] {
+        QPainter painter(this);
+        painter_.Paint(painter, screen_);
+    });
+}
+
+void CanvasWidget::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    RunGuarded([this] {
+        // The canvas takes its size in screen units; the scale of every
+        // object follows. The same size again changes nothing.
+        const double width = this->width() * kUnitsPerPixel;
+        const double height = this->height() * kUnitsPerPixel;
+        if (width != screen_.CanvasWidth() || height != screen_.CanvasHeight())
+            screen_.SetCanvasSize(width, height);
+    });
+}
+
+void CanvasWidget::Deliver(const CanvasHit& target, Phase phase, int button, int shift,
+                           const QPointF& at) {
+    const double x = at.x();
+    const double y = at.y();
+    switch (target.kind) {
+        case CanvasHit::Kind::Node: {
+            const CanvasRect& node = screen_.Canvas().nodes[target.node].rect;
+            const double nx = x - node.left;
+            const double ny = y - node.top;
+            if (phase == Phase::Down) screen_.NodeMouseDown(target.node, button, shift, nx, ny);
+            if (phase == Phase::Move) screen_.NodeMouseMove(target.node, button, shift, nx, ny);
+            if (phase == Phase::Up) screen_.NodeMouseUp(target.node, button, shift, nx, ny);
+            break;
+        }
+        case CanvasHit::Kind::Object: {
+            // The object may have gone in the meantime.
+            if (!screen_.HoldsObject(target.object)) break;
+            KomaObject& object = *target.object;
+            const double ox = x - object.Left();
+            const double oy = y - object.Top();
+            if (phase == Phase::Down) object.MouseDown(button, shift, ox, oy);
+            if (phase == Phase::Move) object.MouseMove(button, shift, ox, oy);
+            if (phase == Phase::Up) object.MouseUp(button, shift, ox, oy);
+            break;
+        }
+        case CanvasHit::Kind::Canvas:
+            if (phase == Phase::Down) screen_.CanvasMouseDown(button, shift, x, y);
+            if (phase == Phase::Move) screen_.CanvasMouseMove(button, shift, x, y);
+            if (phase == Phase::Up) screen_.CanvasMouseUp(button, shift, x, y);
+            break;
+    }
+}
+
+void CanvasWidget::mousePressEvent(QMouseEvent* event) {
+    const QPointF at = ToUnits(event->position());
+    const int button = ButtonCode(event->button());
+    const int shift = ShiftCode(event->modifiers());
+    if (captured_) {
+        // A second button while one is held goes nowhere.
+        const bool heldStill = event->button() != captureButton_ &&
+                               (event->buttons() & captureButton_);
+        if (heldStill) return;
+        // The release of the last press was lost (a window took the mouse
+        // in between): the element that took the press gets it now.
+        const CanvasHit target = capture_;
+        const int lost = ButtonCode(captureButton_);
+        captured_ = false;
+        captureButton_ = Qt::NoButton;
+        capture_ = CanvasHit{};
+        RunGuarded([&] { Deliver(target, Phase::Up, lost, shift, at); });
+    }
+    RunGuarded([&] {
+        capture_ = screen_.HitTest(at.x(), at.y());
+        captured_ = true;
+        captureButton_ = event->button();
+        Deliver(capture_, Phase::Down, button, shift, at);
+    });
+    update();
+}
+
+void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
+    const QPointF at = ToUnits(event->position());
+    const int shift = ShiftCode(event->modifiers());
+    RunGuarded([&] {
+        if (captured_) {
+            int button = ButtonCode(event->buttons());
+            if (button == 0) button = ButtonCode(captureButton_);
+            Deliver(capture_, Phase::Move, button, shift, at);
+        } else {
+            Deliver(screen_.HitTest(at.x(), at.y()), Phase::Move, ButtonCode(event->buttons()),
+                    shift, at);
+        }
+    });
+    if (captured_) update();
+}
+
+void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (!captured_ || event->button() != captureButton_) return;
+    const QPointF at = ToUnits(event->position());
+    const int button = ButtonCode(event->button());
+    const int shift = ShiftCode(event->modifiers());
+    const CanvasHit target = capture_;
+    captured_ = false;
+    captureButton_ = Qt::NoButton;
+    capture_ = CanvasHit{};
+    RunGuarded([&] { Deliver(target, Phase::Up, button, shift, at); });
+    update();
+}
+
+void CanvasWidget::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Delete) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    // The delete key goes to the object that has the focus.
+    const int shift = ShiftCode(event->modifiers());
+    RunGuarded([&] {
+        for (KomaObject* object : screen_.VisibleObjectsInStackingOrder()) {
+            if (object->HasFocus()) {
+                object->KeyDown(46, shift);
+                break;
+            }
+        }
+    });
+    update();
+}
+
+}  // namespace tolva

@@ -1,0 +1,227 @@
+#include "canvas/qt/ScreenPainter.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPen>
+#include <algorithm>
+#include <cmath>
+
+#include "canvas/DeviceArea.h"
+#include "canvas/RubberBand.h"
+#include "canvas/SelectionNodes.h"
+#include "document/ctlTolvaScreen.h"
+#include "platform/Cp1252.h"
+
+namespace tolva {
+
+namespace {
+
+const QColor kDotColor(0x80, 0x80, 0x80);
+
+}  // namespace
+
+QColor ScreenPainter::ToQColor(const DrawColor& color) {
+    return QColor(color.red, color.green, color.blue);
+}
+
+QRectF ScreenPainter::ToPixels(const CanvasRect& rect) const {
+    return QRectF(rect.left / unitsPerPixel_, rect.top / unitsPerPixel_,
+                  rect.width / unitsPerPixel_, rect.height / unitsPerPixel_);
+}
+
+QPointF ScreenPainter::ToPixels(double x, double y) const {
+    return QPointF(x / unitsPerPixel_, y / unitsPerPixel_);
+}
+
+void ScreenPainter::Paint(QPainter& painter, const ctlTolvaScreen& screen) {
+    painter.save();
+    // The frame and the device area.
+    painter.fillRect(ToPixels(screen.BorderRect()),
+                     ToQColor(DrawColor::FromStored(kBorderFillColor)));
+    painter.fillRect(ToPixels(screen.DeviceAreaRect()),
+                     ToQColor(DrawColor::FromStored(kDeviceFillColor)));
+
+    // The dots lie behind the objects.
+    PaintGrid(painter, screen);
+
+    for (const KomaObject* object : screen.VisibleObjectsInStackingOrder())
+        PaintObject(painter, *object);
+
+    PaintBand(painter, screen);
+    PaintNodes(painter, screen);
+    painter.restore();
+}
+
+// --- grid ----------------------------------------------------------------------------------
+
+void ScreenPainter::PaintGrid(QPainter& painter, const ctlTolvaScreen& screen) {
+    const GridDots& dots = screen.Canvas().dots;
+    if (dots.Count() <= 0) return;
+    const CanvasRect border = screen.BorderRect();
+
+    const GridKey key{dots.perSide, dots.spacing, dots.originX, dots.originY, border.width,
+                      border.height};
+    if (!(key == gridKey_)) {
+        gridKey_ = key;
+        gridPoints_.clear();
+        gridField_ = QRectF();
+        const double half = kGridDotSize / 2;
+        // Only the dots that can show on the canvas; a grid finer than a
+        // dot is one grey field, which is what its dots would cover.
+        if (dots.spacing > 0 && dots.spacing < kGridDotSize) {
+            const double last = dots.originX + double(dots.perSide - 1) * dots.spacing;
+            const double lastY = dots.originY + double(dots.perSide - 1) * dots.spacing;
+            gridField_ = ToPixels(CanvasRect{dots.originX - half, dots.originY - half,
+                                             std::min(last, border.width) - dots.originX + 2 * half,
+                                             std::min(lastY, border.height) - dots.originY +
+                                                 2 * half});
+        } else if (dots.spacing > 0) {
+            const int across = std::min<long long>(
+                dots.perSide, static_cast<long long>((border.width - dots.originX + half) /
+                                                     dots.spacing) + 1);
+            const int down = std::min<long long>(
+                dots.perSide, static_cast<long long>((border.height - dots.originY + half) /
+                                                     dots.spacing) + 1);
+            gridPoints_.reserve(std::max(0, across) * std::max(0, down));
+            // Each dot on a whole pixel, so that all of them look alike.
+            for (int row = 0; row < down; ++row)
+                for (int column = 0; column < across; ++column) {
+                    const QPointF at = ToPixels(dots.originX + double(column) * dots.spacing,
+                                                dots.originY + double(row) * dots.spacing);
+                    gridPoints_.append(QPointF(std::round(at.x()), std::round(at.y())));
+                }
+        } else {
+            // A spacing of 0 or less puts every dot on the first point.
+            gridPoints_.append(ToPixels(dots.originX, dots.originY));
+        }
+    }
+
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    if (!gridField_.isNull()) {
+        painter.fillRect(gridField_, kDotColor);
+    } else if (!gridPoints_.isEmpty()) {
+        // All dots in one pass.
+        QPen pen(kDotColor);
+        pen.setWidthF(std::max(1.0, std::round(ToPixels(kGridDotSize))));
+        pen.setCapStyle(Qt::SquareCap);
+        painter.setPen(pen);
+        painter.drawPoints(gridPoints_.constData(), gridPoints_.size());
+    }
+    painter.restore();
+}
+
+// --- objects --------------------------------------------------------------------------------
+
+void ScreenPainter::PaintObject(QPainter& painter, const KomaObject& object) {
+    const DrawElementList elements = object.GetDrawElements();
+    painter.save();
+    // An object shows nothing outside its own box.
+    painter.setClipRect(
+        ToPixels(CanvasRect{object.Left(), object.Top(), object.Width(), object.Height()}),
+        Qt::IntersectClip);
+    for (const DrawElement& element : elements)
+        PaintElement(painter, element, object.Left(), object.Top());
+    painter.restore();
+}
+
+void ScreenPainter::PaintElement(QPainter& painter, const DrawElement& element, double left,
+                                 double top) {
+    if (!element.visible) return;
+    const CanvasRect placed{left + element.rect.left, top + element.rect.top, element.rect.width,
+                            element.rect.height};
+    const QRectF box = ToPixels(placed);
+    switch (element.kind) {
+        case DrawElementKind::Shape: {
+            QPen pen(Qt::NoPen);
+            double penWidth = 0;
+            if (element.outline) {
+                penWidth = std::max(1.0, ToPixels(element.outlineWidth));
+                pen = QPen(ToQColor(element.outlineColor), penWidth);
+                pen.setJoinStyle(Qt::MiterJoin);
+            }
+            painter.setPen(pen);
+            painter.setBrush(element.filled ? QBrush(ToQColor(element.fillColor)) : Qt::NoBrush);
+            // The outline lies inside the box.
+            const QRectF inner = box.adjusted(penWidth / 2, penWidth / 2, -penWidth / 2,
+                                              -penWidth / 2);
+            if (element.rounded) {
+                const double radius = ToPixels(element.cornerRadius);
+                painter.drawRoundedRect(inner, radius, radius);
+            } else {
+                painter.drawRect(inner);
+            }
+            break;
+        }
+        case DrawElementKind::TextBox: {
+            if (element.opaque) painter.fillRect(box, ToQColor(element.backColor));
+            QFont font = painter.font();
+            if (!element.font.name.empty()) font.setFamily(FromCp1252(element.font.name));
+            if (element.font.size > 0) font.setPointSizeF(element.font.size);
+            font.setBold(element.font.bold);
+            painter.setFont(font);
+            painter.setPen(ToQColor(element.foreColor));
+            int flags = Qt::TextWordWrap;
+            switch (element.alignment) {
+                case TextAlignment::Left: flags |= Qt::AlignLeft; break;
+                case TextAlignment::Right: flags |= Qt::AlignRight; break;
+                case TextAlignment::Center: flags |= Qt::AlignHCenter; break;
+            }
+            flags |= element.middle ? Qt::AlignVCenter : Qt::AlignTop;
+            painter.drawText(box, flags, FromCp1252(element.text));
+            break;
+        }
+        case DrawElementKind::Image: {
+            const QImage& picture = Picture(element.imagePath);
+            if (!picture.isNull()) painter.drawImage(box, picture);
+            break;
+        }
+        case DrawElementKind::Line: {
+            QPen pen(ToQColor(element.lineColor), std::max(1.0, ToPixels(element.lineWidth)));
+            painter.setPen(pen);
+            painter.drawLine(ToPixels(left + element.x1, top + element.y1),
+                             ToPixels(left + element.x2, top + element.y2));
+            break;
+        }
+    }
+}
+
+const QImage& ScreenPainter::Picture(const std::string& path) {
+    const QString key = FromCp1252(path);
+    auto it = pictures_.find(key);
+    if (it == pictures_.end()) it = pictures_.insert(key, QImage(key));
+    return it.value();
+}
+
+// --- band and nodes ---------------------------------------------------------------------------
+
+void ScreenPainter::PaintBand(QPainter& painter, const ctlTolvaScreen& screen) {
+    const ScreenCanvasState& canvas = screen.Canvas();
+    if (canvas.barsVisible) {
+        for (const CanvasRect& bar : canvas.bars) {
+            QRectF r = ToPixels(bar);
+            // A bar is at least one pixel thick, however far it is scaled.
+            if (r.width() < 1) r.setWidth(1);
+            if (r.height() < 1) r.setHeight(1);
+            painter.fillRect(r, Qt::black);
+        }
+    }
+    if (canvas.editorLine.visible) {
+        const QRectF box = ToPixels(canvas.editorLine.box);
+        painter.setPen(QPen(Qt::black, 1));
+        if (canvas.editorLine.positiveSlope) {
+            painter.drawLine(box.bottomLeft(), box.topRight());
+        } else {
+            painter.drawLine(box.topLeft(), box.bottomRight());
+        }
+    }
+}
+
+void ScreenPainter::PaintNodes(QPainter& painter, const ctlTolvaScreen& screen) {
+    const QColor color = ToQColor(DrawColor::FromStored(kNodeColor));
+    for (const ShownRect& at : screen.Canvas().nodes)
+        if (at.visible) painter.fillRect(ToPixels(at.rect), color);
+}
+
+}  // namespace tolva

@@ -1,0 +1,67 @@
+#pragma once
+// Paints the design screen: the frame, the device area, the grid dots (in
+// one pass), every visible object from its draw elements in stacking order,
+// the rubber band or the editor line, and the nodes. Everything is given in
+// screen units and mapped to the painter's pixels by one factor, so that the
+// picture is crisp at any display density.
+#include <QColor>
+#include <QHash>
+#include <QImage>
+#include <QPointF>
+#include <QRectF>
+#include <QVector>
+
+#include "canvas/DrawElement.h"
+#include "canvas/Grid.h"
+
+class QPainter;
+
+namespace tolva {
+
+class ctlTolvaScreen;
+class KomaObject;
+
+class ScreenPainter {
+public:
+    explicit ScreenPainter(double unitsPerPixel = 15.0) : unitsPerPixel_(unitsPerPixel) {}
+
+    double UnitsPerPixel() const { return unitsPerPixel_; }
+
+    // Paints the whole screen with its top left corner at the painter's 0, 0.
+    void Paint(QPainter& painter, const ctlTolvaScreen& screen);
+
+    // One object's elements, with the object's top left corner at left, top
+    // (screen units).
+    void PaintObject(QPainter& painter, const KomaObject& object);
+    void PaintElement(QPainter& painter, const DrawElement& element, double left, double top);
+
+    QRectF ToPixels(const CanvasRect& rect) const;
+    QPointF ToPixels(double x, double y) const;
+    double ToPixels(double length) const { return length / unitsPerPixel_; }
+
+    static QColor ToQColor(const DrawColor& color);
+
+private:
+    void PaintGrid(QPainter& painter, const ctlTolvaScreen& screen);
+    void PaintBand(QPainter& painter, const ctlTolvaScreen& screen);
+    void PaintNodes(QPainter& painter, const ctlTolvaScreen& screen);
+    const QImage& Picture(const std::string& path);
+
+    double unitsPerPixel_;
+
+    // The dot centres of the grid last painted, made again only when the
+    // grid or the canvas changes.
+    struct GridKey {
+        int perSide = -1;
+        int spacing = 0;
+        double originX = 0, originY = 0, width = 0, height = 0;
+        bool operator==(const GridKey&) const = default;
+    };
+    GridKey gridKey_;
+    QVector<QPointF> gridPoints_;
+    QRectF gridField_;
+
+    QHash<QString, QImage> pictures_;
+};
+
+}  // namespace tolva

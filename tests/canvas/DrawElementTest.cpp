@@ -1,0 +1,66 @@
+// Draw elements and the drawing every kind starts from.
+#include "canvas/DrawElement.h"
+
+#include <gtest/gtest.h>
+
+#include "objects/ctlKOMAButton.h"
+#include "objects/ctlKOMAForm.h"
+
+namespace tolva {
+namespace {
+
+TEST(DrawColor, StoredValuesHoldBlueHigh) {
+    EXPECT_EQ(DrawColor::FromStored(0xC00000), (DrawColor{0, 0, 0xC0}));
+    EXPECT_EQ(DrawColor::FromStored(0x0000FF), (DrawColor{0xFF, 0, 0}));
+    EXPECT_EQ(DrawColor::FromStored(0xE0E0E0), (DrawColor{0xE0, 0xE0, 0xE0}));
+}
+
+TEST(DrawElement, LineSpansTheBoxOfItsEnds) {
+    const DrawElement line = LineElement("lnLine", 300, 40, 20, 200);
+    EXPECT_EQ(line.kind, DrawElementKind::Line);
+    EXPECT_EQ(line.rect, (CanvasRect{20, 40, 280, 160}));
+    EXPECT_EQ(line.x1, 300);
+    EXPECT_EQ(line.y2, 200);
+}
+
+TEST(DrawElement, BuildersGiveTheirKinds) {
+    EXPECT_EQ(ShapeElement("shpButton", {}).kind, DrawElementKind::Shape);
+    const DrawElement text = TextElement("lblText", {1, 2, 3, 4}, "OK");
+    EXPECT_EQ(text.kind, DrawElementKind::TextBox);
+    EXPECT_EQ(text.text, "OK");
+    EXPECT_EQ(text.rect, (CanvasRect{1, 2, 3, 4}));
+    const DrawElement image = ImageElement("imgBitmap", {}, "c:\\a.bmp");
+    EXPECT_EQ(image.kind, DrawElementKind::Image);
+    EXPECT_EQ(image.imagePath, "c:\\a.bmp");
+}
+
+TEST(DefaultDrawing, OutlinedBoxWithTheNameAcrossTheObject) {
+    ctlKOMAButton button;
+    button.KOMAName("BUTTON_7");
+    button.SetCanvasSize(1000, 400);
+    const DrawElementList elements = button.GetDrawElements();
+    ASSERT_EQ(elements.size(), 2u);
+    EXPECT_EQ(elements[0].kind, DrawElementKind::Shape);
+    EXPECT_TRUE(elements[0].outline);
+    EXPECT_TRUE(elements[0].filled);
+    EXPECT_EQ(elements[0].rect, (CanvasRect{0, 0, 1000, 400}));
+    EXPECT_EQ(elements[1].kind, DrawElementKind::TextBox);
+    EXPECT_EQ(elements[1].text, "BUTTON_7");
+    EXPECT_EQ(elements[1].alignment, TextAlignment::Center);
+    EXPECT_EQ(elements[1].rect, (CanvasRect{0, 0, 1000, 400}));
+}
+
+TEST(DefaultDrawing, FollowsTheSizeAndName) {
+    ctlKOMAForm form;
+    form.SetCanvasSize(5855, 5855);
+    form.KOMAName("Main");
+    const DrawElementList elements = form.GetDrawElements();
+    ASSERT_FALSE(elements.empty());
+    EXPECT_EQ(elements[0].rect.width, 5855);
+    // The grid shows through a form.
+    EXPECT_FALSE(elements[0].filled);
+    EXPECT_EQ(elements.back().text, "Main");
+}
+
+}  // namespace
+}  // namespace tolva
