@@ -242,6 +242,19 @@ TEST_F(InspectorFlow, ChoosingAFormInTheListShowsItsRows) {
     EXPECT_EQ(Text(1)->text(), "FORM_1");
 }
 
+TEST_F(InspectorFlow, ClickingTheScreenCommitsTheTypedTextFirst) {
+    ctlKOMAForm* form = DrawForm();
+    QLineEdit* box = Text(8);
+    box->setFocus(Qt::MouseFocusReason);
+    box->selectAll();
+    QTest::keyClicks(box, "Hello");
+    // The top margin, away from the nodes of the selected form.
+    QTest::mouseClick(Canvas(), Qt::LeftButton, {}, QPoint(100, 5));
+    EXPECT_EQ(form->KOMAFormTitle(), "Hello");
+    // The press on the bare margin then emptied the inspector.
+    EXPECT_EQ(View()->NumProperties(), 0);
+}
+
 TEST_F(InspectorFlow, TheBareMarginEmptiesTheInspector) {
     DrawForm();
     window->SelectedObject("", type::None);

@@ -182,6 +182,14 @@ TEST_F(PropertyViewTest, ClearPropertiesListHidesAndEmptiesEveryRow) {
     EXPECT_FALSE(ScrollBar()->isVisible());
 }
 
+TEST_F(PropertyViewTest, RowsAreMadeForAllThatFitEvenWhenTheListIsShorter) {
+    // A resize counted 16 rows; the list has 6.
+    ASSERT_TRUE(ShowForm());
+    EXPECT_EQ(view->RowsMade(), 16);
+    EXPECT_FALSE(Text(7)->isVisible());
+    EXPECT_TRUE(Text(7)->text().isEmpty());
+}
+
 TEST_F(PropertyViewTest, RowsOnceMadeAreReused) {
     ASSERT_TRUE(view->SetProperties(ManyRows(20), {}, "A"));
     const int made = view->RowsMade();
