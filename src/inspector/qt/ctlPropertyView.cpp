@@ -226,6 +226,8 @@ bool ctlPropertyView::SetProperties(const PropertyArray& values, const ValueList
         VScroll1_->setEnabled(bar.shown);
         VScroll1_->setRange(bar.minimum, bar.maximum);
     }
+    // The width changes, the left edge stays where the last resize put it.
+    Place(VScroll1_, scrollLeft_, scrollTop_, scrollWidth_, scrollHeight_);
     VScroll1_->setVisible(bar.shown);
 
     LayOut();
@@ -293,6 +295,8 @@ void ctlPropertyView::ApplyResize() {
     Place(lblTitle_, g.title.left, g.title.top, g.title.width, g.title.height);
     Place(shpBorder_, g.border.left, g.border.top, g.border.width, g.border.height);
     scrollLeft_ = g.scrollBar.left;
+    scrollTop_ = g.scrollBar.top;
+    scrollHeight_ = g.scrollBar.height;
     Place(VScroll1_, g.scrollBar.left, g.scrollBar.top, g.scrollBar.width, g.scrollBar.height);
     dividerLeft_ = static_cast<int>(g.divider.left);
     dividerTop_ = g.divider.top;

@@ -125,6 +125,8 @@ private:
     double dividerTop_ = 0;
     double dividerHeight_ = 0;
     double scrollLeft_ = 0;
+    double scrollTop_ = 0;
+    double scrollHeight_ = 0;
     double scrollWidth_;
     bool scrollShown_ = false;
     bool resizing_ = false;

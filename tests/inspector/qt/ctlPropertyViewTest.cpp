@@ -231,6 +231,15 @@ TEST_F(PropertyViewTest, FewRowsShowNoScrollBarAndWiderEditors) {
     EXPECT_EQ(narrow, Px(2255));
 }
 
+TEST_F(PropertyViewTest, TheScrollBarIsZeroWideWhileHiddenAnd255WhenShownAgain) {
+    ASSERT_TRUE(ShowForm());
+    EXPECT_EQ(ScrollBar()->width(), 0);
+    ASSERT_TRUE(view->SetProperties(ManyRows(20), {}, "A"));
+    EXPECT_EQ(ScrollBar()->width(), Px(255));
+    EXPECT_EQ(ScrollBar()->x(), Px(5265));
+    EXPECT_EQ(ScrollBar()->y(), Px(515));
+}
+
 TEST_F(PropertyViewTest, ScrollingShowsTheRowsFromTheScrollValue) {
     ASSERT_TRUE(view->SetProperties(ManyRows(20), {}, "A"));
     ScrollBar()->setValue(3);
