@@ -28,4 +28,12 @@ bool GetValueLists(int kind, ValueLists& lists) {
     return true;
 }
 
+bool GetValueListsForType(int type, ValueLists& lists) {
+    if (!GetValueLists(type, lists)) {
+        lists.clear();
+        return false;
+    }
+    return true;
+}
+
 }  // namespace tolva

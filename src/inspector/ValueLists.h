@@ -14,4 +14,9 @@ void SetValueLists(int kind, const ValueLists& lists);
 // and lists left as they were, for a kind above 16 (or below 0).
 bool GetValueLists(int kind, ValueLists& lists);
 
+// The inspector's way to the lists: a copy of the lists of a screen type
+// (0 to 15, or 16 for no object, which has none). A type above 16, or below
+// 0, gives nothing: the lists come back empty and the answer is false.
+bool GetValueListsForType(int type, ValueLists& lists);
+
 }  // namespace tolva

@@ -19,6 +19,10 @@
 #include "document/RuntimeFailure.h"
 #include "document/StringTable.h"
 #include "document/ctlTolvaScreen.h"
+#include "inspector/PropertyArray.h"
+#include "inspector/ValueLists.h"
+#include "inspector/qt/ctlPropertyView.h"
+#include "objects/ctlKOMAForm.h"
 #include "platform/Cp1252.h"
 #include "shell/FilePaths.h"
 #include "shell/FitText.h"
@@ -45,6 +49,21 @@ constexpr int kButtonTextMargin = 8;
 
 // The design screen's canvas, in screen units.
 constexpr double kCanvasSize = 6255;
+
+// The form's focused-object row offers "(None)" and the names of the
+// objects on that very form, which the lists kept per type cannot know.
+void UseFocusedObjectChoices(const ctlTolvaScreen& screen, const std::string& formName,
+                             ValueLists& lists) {
+    constexpr size_t kFocusedObjectRow = 6;
+    if (lists.size() < kFocusedObjectRow) return;
+    for (int index = 1; index <= screen.NumForms(); ++index) {
+        const ctlKOMAForm* form = screen.FormAt(index);
+        if (form && form->KOMAName() == formName) {
+            lists[kFocusedObjectRow - 1] = form->FocusedObjectChoices();
+            return;
+        }
+    }
+}
 
 }  // namespace
 
@@ -111,10 +130,12 @@ void frmMain::BuildControls() {
     connect(cmdDelete_, &QPushButton::clicked, this,
             [this] { RunGuarded([this] { cmdDelete_Click(); }); });
 
-    ctlPropView_ = new QFrame(client);
-    ctlPropView_->setObjectName("ctlPropView");
-    ctlPropView_->setFrameShape(QFrame::Box);
+    ctlPropView_ = new ctlPropertyView(client);
     ctlPropView_->setGeometry(UnitsRect(6480, 1440, 5535, 5775));
+    connect(ctlPropView_, &ctlPropertyView::PropertyChanged, this,
+            [this](const PropertyArray& values) {
+                RunGuarded([this, &values] { ctlPropView_PropertyChanged(values); });
+            });
 
     cmdViewResFile_ = new QPushButton("View Resource File", client);
     cmdViewResFile_->setObjectName("cmdViewResFile");
@@ -503,13 +524,23 @@ void frmMain::cmdViewHeaderFile_Click() {
 
 // --- the inspector --------------------------------------------------------------------
 
-void frmMain::ClearPropertiesList() {
-    // Empties the inspector; the inspector is not in the window yet.
+void frmMain::ClearPropertiesList() { ctlPropView_->ClearPropertiesList(); }
+
+void frmMain::SetProperties(int objectType, const std::string& name) {
+    ctlTolvaScreen& screen = *screen_;
+    PropertyArray rows;
+    screen.GetObjectPropertiesList(rows, objectType, name);
+    ValueLists lists;
+    GetValueListsForType(objectType, lists);
+    if (objectType == type::Form) UseFocusedObjectChoices(screen, name, lists);
+    ctlPropView_->SetProperties(rows, lists, screen.SelectedObjectName());
 }
 
-void frmMain::SetProperties(int, const std::string&) {
-    // Fills the inspector with the object's rows and the value lists of its
-    // type; the inspector is not in the window yet.
+void frmMain::ctlPropView_PropertyChanged(const PropertyArray& values) {
+    ctlTolvaScreen& screen = *screen_;
+    const int selectedType = screen.SelectedObjectType();
+    const std::string selectedName = screen.SelectedObjectName();
+    screen.NotifyObjectOfPropertyChange(selectedType, selectedName, values);
 }
 
 // --- menus ----------------------------------------------------------------------------

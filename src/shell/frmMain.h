@@ -22,6 +22,8 @@ class QToolButton;
 namespace tolva {
 
 class CanvasWidget;
+class PropertyArray;
+class ctlPropertyView;
 class Host;
 class SortedComboBox;
 class ctlTolvaScreen;
@@ -51,6 +53,7 @@ public:
 
     ctlTolvaScreen& Screen() { return *screen_; }
     CanvasWidget* ScreenWidget() const { return ctlScreen_; }
+    ctlPropertyView* PropertyView() const { return ctlPropView_; }
     frmLog* LogWindow() const { return log_; }
     Host& WindowHost() { return host_; }
 
@@ -103,9 +106,12 @@ private:
     static bool SetComboText(QComboBox* combo, const std::string& text);
     void FillFormsCombo();
 
-    // Inspector steps; the inspector is not in the window yet.
+    // The inspector steps: empty it; fill it with the rows of an object and
+    // the value lists of its type, titled with the selected name.
     void ClearPropertiesList();
     void SetProperties(int type, const std::string& name);
+    // A row of the inspector changed: the object takes the whole array.
+    void ctlPropView_PropertyChanged(const PropertyArray& values);
 
     // Handlers of the window's controls.
     void cmbForms_Click();
@@ -153,7 +159,7 @@ private:
     QLabel* lblObjects_ = nullptr;
     SortedComboBox* cmbObjects_ = nullptr;
     QPushButton* cmdDelete_ = nullptr;
-    QFrame* ctlPropView_ = nullptr;
+    ctlPropertyView* ctlPropView_ = nullptr;
     QPushButton* cmdViewResFile_ = nullptr;
     QPushButton* cmdViewHeaderFile_ = nullptr;
     QLabel* Label1_ = nullptr;

@@ -31,15 +31,36 @@ bool LoadFontWidthTables(Host&) {
     return true;
 }
 
+const std::vector<ValueListStep>& ValueListSteps() {
+    static const std::vector<ValueListStep> steps = {
+        {"form", type::Form, &FillFormValueLists},
+        {"button", type::Button, nullptr},
+        {"string", type::String, nullptr},
+        {"repeat button", type::RepeatButton, nullptr},
+        {"bitmap", type::Bitmap, nullptr},
+        {"checkbox", type::Checkbox, nullptr},
+        {"push button", type::PushButton, nullptr},
+        {"textbox", type::Textbox, nullptr},
+        {"field", type::Field, nullptr},
+        {"line", type::Line, nullptr},
+        {"list", type::List, nullptr},
+        {"menu", type::Menu, nullptr},
+        {"popup trigger", type::PopupTrigger, nullptr},
+        {"scrollbar", type::Scrollbar, nullptr},
+        {"scheduler line", type::SchedulerLine, nullptr},
+        {"table", type::Table, nullptr},
+    };
+    return steps;
+}
+
 void BuildValueLists() {
-    // The value lists of the object kinds, in the order form, button, string,
-    // repeat button, bitmap, checkbox, push button, textbox, field, line,
-    // list, menu, popup trigger, scrollbar, scheduler line, table. Only the
-    // form's are in the program yet; each other kind's take their place in
-    // this order as they come.
-    ValueLists form;
-    FillFormValueLists(form);
-    SetValueLists(type::Form, form);
+    // Each kind's module fills its lists once, in the order of the steps.
+    for (const ValueListStep& step : ValueListSteps()) {
+        if (!step.fill) continue;
+        ValueLists lists;
+        step.fill(lists);
+        SetValueLists(step.type, lists);
+    }
 }
 
 void LoadPropertyLabelStrings() { LoadPropertyLabels(StringTable::Shared()); }

@@ -2,6 +2,9 @@
 // The program's entry: reads the string table, builds the shared lists and
 // labels, reads the tables it needs and opens the main window.
 #include <memory>
+#include <vector>
+
+#include "inspector/PropertyArray.h"
 
 namespace tolva {
 
@@ -22,6 +25,17 @@ void LoadStringTable(Host& host);
 void BuildColorWordList();
 bool LoadFontWidthTables(Host& host);
 void BuildValueLists();
+
+// One kind's place in the building of the value lists: its name, its screen
+// type, and the routine of its module that fills its lists. A kind whose
+// module is not in the program yet keeps its place with no routine.
+struct ValueListStep {
+    const char* kind;
+    int type;
+    void (*fill)(ValueLists& lists);
+};
+// The kinds in the order their lists are built.
+const std::vector<ValueListStep>& ValueListSteps();
 void LoadPropertyLabelStrings();
 
 }  // namespace tolva

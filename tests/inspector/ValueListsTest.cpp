@@ -38,3 +38,36 @@ TEST(ValueLists, KindAboveSixteenAnswersFalse) {
 
 }  // namespace
 }  // namespace tolva
+
+namespace tolva {
+namespace {
+
+TEST(ValueListsForType, ATypeGivesACopyOfItsLists) {
+    ValueLists form;
+    FillFormValueLists(form);
+    SetValueLists(type::Form, form);
+    ValueLists lists;
+    EXPECT_TRUE(GetValueListsForType(type::Form, lists));
+    EXPECT_EQ(lists, form);
+    ASSERT_EQ(lists.size(), 10u);
+    EXPECT_EQ(lists[6], (std::vector<std::string>{"NORMAL", "BACKGROUND", "BITMAP_DIALOG",
+                                                  "NON_BITMAP_DIALOG"}));
+}
+
+TEST(ValueListsForType, ATypeAboveSixteenGivesNothing) {
+    ValueLists lists = {{"old"}};
+    EXPECT_FALSE(GetValueListsForType(17, lists));
+    EXPECT_TRUE(lists.empty());
+    lists = {{"old"}};
+    EXPECT_FALSE(GetValueListsForType(-1, lists));
+    EXPECT_TRUE(lists.empty());
+}
+
+TEST(ValueListsForType, NoObjectHasNoLists) {
+    ValueLists lists = {{"old"}};
+    EXPECT_TRUE(GetValueListsForType(type::None, lists));
+    EXPECT_TRUE(lists.empty());
+}
+
+}  // namespace
+}  // namespace tolva

@@ -68,6 +68,28 @@ TEST_F(StartUpTest, FormValueListsAreBuilt) {
     EXPECT_EQ(built, expected);
 }
 
+TEST_F(StartUpTest, ValueListsAreBuiltKindByKindInTheirOrder) {
+    const std::vector<int> expected = {
+        type::Form,     type::Button,   type::String,       type::RepeatButton,
+        type::Bitmap,   type::Checkbox, type::PushButton,   type::Textbox,
+        type::Field,    type::Line,     type::List,         type::Menu,
+        type::PopupTrigger, type::Scrollbar, type::SchedulerLine, type::Table};
+    std::vector<int> order;
+    for (const ValueListStep& step : ValueListSteps()) order.push_back(step.type);
+    EXPECT_EQ(order, expected);
+    EXPECT_STREQ(ValueListSteps().front().kind, "form");
+    EXPECT_EQ(ValueListSteps().front().fill, &FillFormValueLists);
+}
+
+TEST_F(StartUpTest, TheInspectorGetsTheFormsListsAfterStartUp) {
+    SetValueLists(type::Form, {});
+    auto window = StartUp(host, false);
+    ValueLists lists;
+    ASSERT_TRUE(GetValueListsForType(type::Form, lists));
+    ASSERT_EQ(lists.size(), 10u);
+    EXPECT_EQ(lists[9], (std::vector<std::string>{"2 Bit", "4 Bit"}));
+}
+
 TEST_F(StartUpTest, StartUpShowsNoMessage) {
     auto window = StartUp(host, false);
     EXPECT_TRUE(host.messages.empty());
