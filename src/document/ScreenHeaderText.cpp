@@ -24,12 +24,8 @@ void ctlTolvaScreen::GetHeaderFileText(LineList& lines) const {
     // 1. Each form, its menus directly behind it.
     for (const auto& object : arrays_[type::Form]) {
         lines.push_back(Definition(object->KOMAName(), IntToText(object->KOMAObjectID())));
-        std::vector<std::vector<std::string>> itemLists;
-        std::vector<std::string> names;
-        std::vector<int> ids;
-        static_cast<const ctlKOMAForm&>(*object).GetMenus(itemLists, names, ids);
-        for (size_t m = 0; m < names.size(); ++m)
-            lines.push_back(Definition(names[m], IntToText(ids[m])));
+        for (const auto& menu : static_cast<const ctlKOMAForm&>(*object).Menus())
+            lines.push_back(Definition(menu.name, IntToText(menu.id)));
     }
 
     // 2. Each table, the objects of its cells directly behind it, as the

@@ -62,14 +62,9 @@ void AppendMenuRecord(LineList& lines, const std::string& name, int id,
 
 bool ctlTolvaScreen::GetMenuResourceText(LineList& lines) const {
     lines.clear();
-    for (const auto& object : arrays_[type::Form]) {
-        std::vector<std::vector<std::string>> itemLists;
-        std::vector<std::string> names;
-        std::vector<int> ids;
-        static_cast<const ctlKOMAForm&>(*object).GetMenus(itemLists, names, ids);
-        for (size_t m = 0; m < names.size(); ++m)
-            AppendMenuRecord(lines, names[m], ids[m], itemLists[m]);
-    }
+    for (const auto& object : arrays_[type::Form])
+        for (const auto& menu : static_cast<const ctlKOMAForm&>(*object).Menus())
+            AppendMenuRecord(lines, menu.name, menu.id, menu.items);
     return true;
 }
 
