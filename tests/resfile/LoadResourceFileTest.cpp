@@ -201,6 +201,19 @@ TEST_F(LoadTest, AMenuOfAFormTheScreenDoesNotKnowCannotBeMade) {
                                                              "Load Error: Could not create menu"}));
 }
 
+TEST_F(LoadTest, ACellObjectGoesToItsTableAndNotOntoTheScreen) {
+    // The table's refusal (its grid of objects is not built yet) is not
+    // looked at: the load goes on in silence.
+    ASSERT_TRUE(Load(Join({Record("#TABLE", "TABLE_1", 7, {"COLUMNS=2", "CELLS=8"}),
+                           Control("BUTTON", "BUTTON_IN_CELL", 8),
+                           Record("#FORM", "FORM_1", 0, {"COUNT=2", "OBJ=7", "OBJ=8"})})));
+    EXPECT_TRUE(host.messages.empty());
+    EXPECT_EQ(screen.NumTables(), 1);
+    EXPECT_EQ(screen.NumButtons(), 0);
+    EXPECT_EQ(Describe(), (std::vector<std::string>{"1 FORM_1 on -", "6 TABLE_1 on FORM_1",
+                                                    "FORM_1 holds TABLE_1 TABLE"}));
+}
+
 TEST_F(LoadTest, ARenamedObjectIsCreatedAndEmbeddedUnderItsNewName) {
     ASSERT_TRUE(Load(Join({Record("#FORM", "FORM_1", 3, {"COUNT=1", "OBJ=4"}),
                            Record("#STRING", "FORM_1", 4)})));
