@@ -4,6 +4,7 @@
 #include "document/ScreenEvents.h"
 #include "document/ctlTolvaScreen.h"
 #include "objects/ctlKOMAForm.h"
+#include "objects/ctlKOMATable.h"
 
 namespace tolva {
 
@@ -17,6 +18,15 @@ bool ctlTolvaScreen::CreateObjectFromText(int screenType, const GroupList& recor
     bool ok = false;
     object->SetFromResText(record, ok);
     return true;
+}
+
+bool ctlTolvaScreen::CreateObjectInTable(const std::string& tableName, int row, int column,
+                                         int screenType, const GroupList& record) {
+    auto* table = static_cast<ctlKOMATable*>(FindObject(type::Table, tableName));
+    if (!table) return false;
+    bool ok = false;
+    table->CreateObjectInTable(row, column, screenType, record, ok);
+    return ok;
 }
 
 void ctlTolvaScreen::StopLoading() {

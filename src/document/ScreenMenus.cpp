@@ -23,11 +23,11 @@ void ctlTolvaScreen::UpdateMenus(const std::vector<std::vector<std::string>>& it
     DistributeObjectIds();
 }
 
-void ctlTolvaScreen::CreateNewMenuInForm(const std::vector<std::string>& items,
+bool ctlTolvaScreen::CreateNewMenuInForm(const std::vector<std::string>& items,
                                          const std::string& menuName,
                                          const std::string& formName) {
     auto* form = static_cast<ctlKOMAForm*>(FindObject(type::Form, formName));
-    if (!form) return;
+    if (!form) return false;
     std::vector<std::vector<std::string>> itemLists;
     std::vector<std::string> names;
     std::vector<int> ids;
@@ -37,6 +37,7 @@ void ctlTolvaScreen::CreateNewMenuInForm(const std::vector<std::string>& items,
     form->SetMenus(itemLists, names);
     ++numMenus_;
     Log("New menu added to form: " + formName);
+    return true;
 }
 
 }  // namespace tolva

@@ -151,6 +151,16 @@ public:
     // lineFlag is set); they show only once ShowNodes shows them.
     void PlaceNodes(KomaObject& object, bool lineFlag);
 
+    // The file text. GetKOMAResourceText: the record of the named object of
+    // the type (false at once for a menu, type 10); GetMenuResourceText: the
+    // menu records of all forms; GetTableObjects: the records of the objects
+    // in a table's cells, one list per object; GetHeaderFileText: the
+    // "#define" lines of the header.
+    bool GetKOMAResourceText(LineList& lines, const std::string& name, int type);
+    bool GetMenuResourceText(LineList& lines) const;
+    bool GetTableObjects(const std::string& tableName, std::vector<LineList>& blocks);
+    void GetHeaderFileText(LineList& lines) const;
+
     bool GetObjectType(const std::string& name, int& type) const;
     bool GetObjectPropertiesList(PropertyArray& rows, int type, const std::string& name);
     bool NotifyObjectOfPropertyChange(int type, const std::string& name, const PropertyArray& rows);
@@ -185,12 +195,17 @@ public:
     void ShowMenuEditor();
     void UpdateMenus(const std::vector<std::vector<std::string>>& itemLists,
                      const std::vector<std::string>& names);
-    void CreateNewMenuInForm(const std::vector<std::string>& items, const std::string& menuName,
+    // False when the form is not found.
+    bool CreateNewMenuInForm(const std::vector<std::string>& items, const std::string& menuName,
                              const std::string& formName);
 
     // Loading.
     void StartLoading();
     bool CreateObjectFromText(int type, const GroupList& record);
+    // Puts a loaded object of the type into a cell (row and column from 1)
+    // of the named table; false when the table or the cell refuses.
+    bool CreateObjectInTable(const std::string& tableName, int row, int column, int type,
+                             const GroupList& record);
     void StopLoading();
     void UnloadAll();
     void ClearScreen();

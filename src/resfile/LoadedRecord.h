@@ -17,7 +17,8 @@ struct LoadedRecord {
     // The word of the ID table: "(B)OBJECT.TYPE=", or for a "#CONTROL"
     // record its "(B)CONTROL_STYLE=" ("BUTTON", "CHECKBOX", ...).
     std::string kindWord;
-    // What the object's SetFromResText receives, group by group.
+    // What the object's SetFromResText receives, group by group. In every
+    // kind group 0 holds the name and the ID, the name first.
     GroupList groups;
 
     // Records that may stand in a table cell: the table's ID, or 65535.
@@ -36,5 +37,12 @@ struct LoadedRecord {
     // A menu: its item texts.
     std::vector<std::string> menuItems;
 };
+
+// Gives the record a new name, in its group list too.
+inline void RenameRecord(LoadedRecord& record, const std::string& name) {
+    record.name = name;
+    if (!record.groups.empty() && !record.groups.front().empty())
+        record.groups.front().front() = name;
+}
 
 }  // namespace tolva

@@ -20,9 +20,11 @@ bool SaveHeaderFile(ctlTolvaScreen& screen, const std::string& path);
 // Reads the resource text and rebuilds the design on the screen, which the
 // caller has cleared and put into its load state. Messages go through the
 // screen's host. Answers false after a message when the file cannot be
-// loaded; a value that is no number, a number out of range or the end of the
-// file inside a record throws RuntimeFailure, which the caller takes as the
-// silent end of the load.
+// loaded; a file that cannot be read, a value that is no number, a number
+// out of range, an ID that fits no row of the load's ID table or the end of
+// the file inside a record throws RuntimeFailure, which the caller takes as
+// the silent end of the load. The caller's StartLoading and StopLoading
+// stand around it.
 bool LoadResourceFile(ctlTolvaScreen& screen, const std::string& path);
 
 }  // namespace tolva
