@@ -15,6 +15,11 @@ void ctlKOMATable::GetHeaderEmbeddedObjectHeaderInfo(
     entries.clear();
 }
 
+void ctlKOMATable::GetTableObjectTypesAndIds(
+    std::vector<std::pair<std::string, std::string>>& pairs) {
+    pairs.clear();
+}
+
 void ctlKOMATable::CreateObjectInTable(int, int, int, const GroupList&, bool& ok) { ok = false; }
 
 }  // namespace tolva

@@ -119,6 +119,9 @@ public:
     void GetPropertyList(PropertyArray& rows) override;
     bool SetPropertyList(const PropertyArray& rows) override;
     bool CopyModelFrom(const KomaObject& other) override;
+    // The form's record, and a loaded record applied (FormRecord.cpp).
+    void ReturnResourceFileText(LineList& lines, bool& ok) override;
+    void SetFromResText(const GroupList& groups, bool& ok) override;
 
 protected:
     // A size row sets the size on the canvas first, then raises resized.

@@ -23,6 +23,11 @@ public:
     // object in a cell, row by row: the header's lines of the cells.
     virtual void GetHeaderEmbeddedObjectHeaderInfo(
         std::vector<std::pair<std::string, std::string>>& entries);
+    // Empties pairs, then appends the ID (as text) and the type word of
+    // every object in a cell, row by row: the pairs the form's record lists
+    // behind its own objects.
+    virtual void GetTableObjectTypesAndIds(
+        std::vector<std::pair<std::string, std::string>>& pairs);
     // The loader's way into a cell (row and column from 1): a new object of
     // the screen type takes the record; ok is false outside the grid.
     virtual void CreateObjectInTable(int row, int column, int screenType,

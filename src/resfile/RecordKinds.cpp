@@ -1,6 +1,7 @@
 #include "resfile/RecordKinds.h"
 
 #include "document/ObjectTypes.h"
+#include "objects/FormRecord.h"
 
 namespace tolva {
 
@@ -10,7 +11,7 @@ RecordKinds MakeStandardKinds() {
     RecordKinds kinds;
     // The parsers are plugged in kind by kind; nullptr: not readable yet.
     kinds.sections = {
-        {"#FORM", type::Form, nullptr, "Could not load form object", "Could not create form"},
+        {"#FORM", type::Form, ParseFormRecord, "Could not load form object", "Could not create form"},
         {"#BITMAP", type::Bitmap, nullptr, "Could not load bitmap object",
          "Could not create bitmap"},
         {"#FIELD", type::Field, nullptr, "Could not load field object", "Could not create field"},
