@@ -375,16 +375,17 @@ void ctlPropertyView::PressButton(int row) {
 
 bool ctlPropertyView::eventFilter(QObject* watched, QEvent* event) {
     if (watched == picSlidingDivider_) {
-        auto* mouse = static_cast<QMouseEvent*>(event);
+        // Only mouse events may be seen as QMouseEvent; everything else passes on.
         switch (event->type()) {
             case QEvent::MouseButtonPress:
-                if (mouse->button() == Qt::LeftButton) dividerDragging_ = true;
+                if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) dividerDragging_ = true;
                 return true;
             case QEvent::MouseButtonRelease:
                 dividerDragging_ = false;
                 return true;
             case QEvent::MouseMove:
-                if (dividerDragging_) DragDivider(mouse->position().x() * kUnitsPerPixel);
+                if (dividerDragging_)
+                    DragDivider(static_cast<QMouseEvent*>(event)->position().x() * kUnitsPerPixel);
                 return true;
             default:
                 return QWidget::eventFilter(watched, event);
