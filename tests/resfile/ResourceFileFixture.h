@@ -8,6 +8,7 @@
 #include <iterator>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "document/ScreenFixture.h"
 #include "resfile/FakeRecordObjects.h"
@@ -21,6 +22,15 @@ inline std::string ReadBytes(const std::string& path) {
 
 inline std::string Golden(const std::string& name) {
     return ReadBytes(std::string(TOLVA_TEST_DATA_DIR) + "/" + name);
+}
+
+// The lines of a file's bytes, each ended by CR LF.
+inline std::vector<std::string> FileLines(const std::string& bytes) {
+    std::vector<std::string> lines;
+    size_t start = 0;
+    for (size_t end; (end = bytes.find("\r\n", start)) != std::string::npos; start = end + 2)
+        lines.push_back(bytes.substr(start, end - start));
+    return lines;
 }
 
 inline void WriteBytes(const std::string& path, const std::string& bytes) {

@@ -10,14 +10,6 @@ namespace {
 
 using SaveResourceFileTest = ResourceFileTest;
 
-std::vector<std::string> FileLines(const std::string& bytes) {
-    std::vector<std::string> lines;
-    size_t start = 0;
-    for (size_t end; (end = bytes.find("\r\n", start)) != std::string::npos; start = end + 2)
-        lines.push_back(bytes.substr(start, end - start));
-    return lines;
-}
-
 TEST_F(SaveResourceFileTest, AnEmptyDocumentWritesTheThreeBannerLinesAndNothingElse) {
     EXPECT_TRUE(SaveResourceFile(screen, path));
     EXPECT_EQ(ReadBytes(path), Golden("empty_design.txt"));
