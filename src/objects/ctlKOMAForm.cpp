@@ -99,11 +99,14 @@ void ctlKOMAForm::KOMABitmapFile(const std::string& path) {
         Message(LoadResString(msg::BitmapNotFound));
         return;
     }
+    // The image part takes the picture's own size; the next layout sizes it
+    // by the stored bitmap size again.
     pictureWidth_ = size->width;
     pictureHeight_ = size->height;
+    imageWidth_ = size->width;
+    imageHeight_ = size->height;
     hasPicture_ = true;
     bitmapFile_ = path;
-    LayOut();
     RaisePicChanged();
 }
 

@@ -123,7 +123,20 @@ public:
     void ReturnResourceFileText(LineList& lines, bool& ok) override;
     void SetFromResText(const GroupList& groups, bool& ok) override;
 
+    // --- drawing and the popup menu (FormDrawing.cpp) ------------------------
+    // Frame, title bar, title and bitmap of the style, on the form's surface.
+    DrawElementList GetDrawElements() const override;
+    // The size of the title-bar image part now, in device pixels: the
+    // picture's own size once chosen, the stored bitmap size after a layout.
+    int ImageWidth() const { return imageWidth_; }
+    int ImageHeight() const { return imageHeight_; }
+    // A right press opens the popup "Set Properties" instead of raising
+    // mouse down; any other press goes on as for every object.
+    void MouseDown(int button, int shift, double x, double y) override;
+
 protected:
+    // Sizes the image part by the stored bitmap size.
+    void LayOut() override;
     // A size row sets the size on the canvas first, then raises resized.
     void ApplyRowHeight(int height) override;
     void ApplyRowWidth(int width) override;
@@ -141,6 +154,8 @@ private:
     bool hasPicture_ = false;
     int pictureWidth_ = 0;
     int pictureHeight_ = 0;
+    int imageWidth_ = 10;
+    int imageHeight_ = 12;
 
     std::vector<EmbeddedRow> embedded_;
     std::vector<KomaObject*> references_;

@@ -106,6 +106,9 @@ std::optional<int> QtHost::PopupMenu(const std::string& title,
                                      const std::vector<std::string>& entries) {
     QMenu menu(DialogParent());
     menu.setTitle(FromCp1252(title));
+    // The menu is named after its title, "Set Properties" giving
+    // "mnuSetProperties", so that it can be found like every other control.
+    menu.setObjectName("mnu" + FromCp1252(title).remove(' '));
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (entries[i] == "-") {
             menu.addSeparator();

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "objects/ctlKOMAButton.h"
+#include "document/KomaObject.h"
+#include "document/ObjectTypes.h"
 #include "objects/ctlKOMAForm.h"
 
 namespace tolva {
@@ -50,16 +52,27 @@ TEST(DefaultDrawing, OutlinedBoxWithTheNameAcrossTheObject) {
     EXPECT_EQ(elements[1].rect, (CanvasRect{0, 0, 1000, 400}));
 }
 
+// A kind with no drawing of its own.
+class PlainObject : public KomaObject {
+public:
+    explicit PlainObject(int screenType) : KomaObject(screenType, "PLAIN", 40, 14) {}
+};
+
 TEST(DefaultDrawing, FollowsTheSizeAndName) {
-    ctlKOMAForm form;
-    form.SetCanvasSize(5855, 5855);
-    form.KOMAName("Main");
-    const DrawElementList elements = form.GetDrawElements();
-    ASSERT_FALSE(elements.empty());
-    EXPECT_EQ(elements[0].rect.width, 5855);
-    // The grid shows through a form.
-    EXPECT_FALSE(elements[0].filled);
+    PlainObject object(type::Button);
+    object.SetCanvasSize(1200, 500);
+    object.KOMAName("Main");
+    const DrawElementList elements = object.GetDrawElements();
+    ASSERT_EQ(elements.size(), 2u);
+    EXPECT_EQ(elements[0].rect.width, 1200);
+    EXPECT_EQ(elements[0].rect.height, 500);
+    EXPECT_TRUE(elements[0].filled);
     EXPECT_EQ(elements.back().text, "Main");
+}
+
+TEST(DefaultDrawing, AFormOfNoDrawingWouldLetTheGridShowThrough) {
+    PlainObject object(type::Form);
+    EXPECT_FALSE(object.GetDrawElements()[0].filled);
 }
 
 }  // namespace

@@ -158,7 +158,11 @@ void ScreenPainter::PaintElement(QPainter& painter, const DrawElement& element, 
             if (element.opaque) painter.fillRect(box, ToQColor(element.backColor));
             QFont font = painter.font();
             if (!element.font.name.empty()) font.setFamily(FromCp1252(element.font.name));
-            if (element.font.size > 0) font.setPointSizeF(element.font.size);
+            // A point is 20 screen units: the text keeps its size on the
+            // device whatever the zoom.
+            if (element.font.size > 0)
+                font.setPixelSize(std::max(1, static_cast<int>(std::lround(
+                                                  ToPixels(element.font.size * 20)))));
             font.setBold(element.font.bold);
             painter.setFont(font);
             painter.setPen(ToQColor(element.foreColor));
