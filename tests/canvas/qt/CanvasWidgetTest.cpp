@@ -222,5 +222,40 @@ TEST_F(CanvasWidgetTest, LostReleaseIsDeliveredBeforeTheNextPress) {
     EXPECT_EQ(Button()->Left(), left);
 }
 
+TEST_F(CanvasWidgetTest, ARightPressOnTheFormOpensItsPopupAndMovesNothing) {
+    DrawFormAndButton();
+    ctlKOMAForm* form = Screen().FormAt(1);
+    const double left = form->Left();
+    host.popupAnswers.push_back(1);  // "Remove Form Bitmap"
+    QTest::mousePress(Canvas(), Qt::RightButton, Qt::NoModifier, QPoint(300, 300));
+    QTest::mouseRelease(Canvas(), Qt::RightButton, Qt::NoModifier, QPoint(300, 300));
+    ASSERT_EQ(host.popups.size(), 1u);
+    EXPECT_EQ(host.popups[0].first, "Set Properties");
+    EXPECT_NE(Screen().ScreenMode(), ctlTolvaScreen::ModeMoving);
+    MoveTo({320, 320});
+    EXPECT_EQ(form->Left(), left);
+    EXPECT_EQ(form->KOMABitmapFile(), "");
+}
+
+TEST_F(CanvasWidgetTest, TheFormsTitleBarIsPaintedBlackWithItsFrame) {
+    DrawFormAndButton();
+    Screen().SelectObject(type::None, "");
+    const QImage image = Canvas()->grab().toImage();
+    const qreal ratio = image.devicePixelRatio();
+    ctlKOMAForm* form = Screen().FormAt(1);
+    const double s = form->PCTwipsToTolvaPixels();
+    // Inside the bar, right of the title's text: black.
+    const QPointF inBar = CanvasWidget::ToPixels(form->Left() + 150 * s, form->Top() + 14 * s);
+    EXPECT_EQ(image.pixelColor((inBar * ratio).toPoint()), QColor(Qt::black));
+    // The left frame line, below the bar: black.
+    const QPointF onFrame = CanvasWidget::ToPixels(form->Left() + s / 2, form->Top() + 100 * s);
+    EXPECT_EQ(image.pixelColor((onFrame * ratio).toPoint()), QColor(Qt::black));
+    // Style 1 shows the bare surface there.
+    form->KOMAFormStyle(1);
+    Canvas()->update();
+    const QImage bare = Canvas()->grab().toImage();
+    EXPECT_NE(bare.pixelColor((inBar * ratio).toPoint()), QColor(Qt::black));
+}
+
 }  // namespace
 }  // namespace tolva::testing
