@@ -19,6 +19,15 @@ double RoundPoint(double value) { return RoundHalfEven(value); }
 
 // --- the rubber band --------------------------------------------------------------------
 
+void ctlTolvaScreen::SetBandMovingCorner(double x, double y) {
+    double movingX = RoundPoint(x);
+    double movingY = RoundPoint(y);
+    GetClosestNode(movingX, movingY);
+    ClampToDeviceArea(movingX, movingY, canvasWidth_, canvasHeight_);
+    band_.X2 = RoundToIntSaturating(movingX);
+    band_.Y2 = RoundToIntSaturating(movingY);
+}
+
 void ctlTolvaScreen::DrawBand(bool show, double x1, double y1, double x2, double y2,
                               bool lineFlag) {
     if (!show) {
@@ -72,12 +81,7 @@ void ctlTolvaScreen::CanvasMouseDown(int button, int shift, double x, double y) 
 
 void ctlTolvaScreen::CanvasMouseMove(int button, int shift, double x, double y) {
     if (screenMode_ == ModeDrawing) {
-        double movingX = RoundPoint(x);
-        double movingY = RoundPoint(y);
-        GetClosestNode(movingX, movingY);
-        ClampToDeviceArea(movingX, movingY, canvasWidth_, canvasHeight_);
-        band_.X2 = RoundToIntSaturating(movingX);
-        band_.Y2 = RoundToIntSaturating(movingY);
+        SetBandMovingCorner(x, y);
         DrawBand(true, band_.X1, band_.Y1, band_.X2, band_.Y2,
                  createObjectType_ == type::Line);
     }
@@ -87,12 +91,7 @@ void ctlTolvaScreen::CanvasMouseMove(int button, int shift, double x, double y) 
 void ctlTolvaScreen::CanvasMouseUp(int button, int shift, double x, double y) {
     if (screenMode_ == ModeDrawing) {
         // 1.
-        double movingX = RoundPoint(x);
-        double movingY = RoundPoint(y);
-        GetClosestNode(movingX, movingY);
-        ClampToDeviceArea(movingX, movingY, canvasWidth_, canvasHeight_);
-        band_.X2 = RoundToIntSaturating(movingX);
-        band_.Y2 = RoundToIntSaturating(movingY);
+        SetBandMovingCorner(x, y);
 
         // 2.
         host_.SetCursor(CursorShape::Arrow);

@@ -231,6 +231,10 @@ public:
     long long NextStackStamp(bool toFront) override;
 
 protected:
+    // The band's moving corner at the mouse point: rounded, on the grid and
+    // inside the device area.
+    void SetBandMovingCorner(double x, double y);
+
     // FindObject: walks the type's array from 1 comparing names exactly.
     // Logs "Couldn't find requested object: " and the name when not found.
     KomaObject* FindObject(int type, const std::string& name, int* index = nullptr) const;
