@@ -65,6 +65,10 @@ struct DrawElement {
     DrawColor foreColor = kBlack;
     bool opaque = false;
     DrawColor backColor = kWhite;
+    // Screen units per device pixel when the text is in one of the device's
+    // pixel fonts ("TolvaSmall", "TolvaMedium"): the canvas then draws it
+    // glyph by glyph on the device's pixels. 0 for any other text.
+    double devicePixel = 0;
 
     // Image: a picture file, stretched to the box.
     std::string imagePath;

@@ -62,6 +62,7 @@ DrawElementList ctlKOMAForm::GetDrawElements() const {
 
     DrawElement title = TextElement("lblTitle", Scaled(parts.title, s), title_);
     title.font = DrawFont{"TolvaSmall", 14.25, true};
+    title.devicePixel = s;
     title.foreColor = kWhite;
     title.alignment = parts.titleCentred ? TextAlignment::Center : TextAlignment::Left;
     title.visible = parts.titleVisible && parts.title.width > 0;

@@ -1,5 +1,7 @@
 #include "shell/modMain.h"
 
+#include "canvas/DeviceFont.h"
+#include "canvas/FontWidths.h"
 #include "document/Host.h"
 #include "document/ObjectTypes.h"
 #include "document/PropertyLabels.h"
@@ -26,8 +28,11 @@ void BuildColorWordList() {
     ColorWordList();
 }
 
-bool LoadFontWidthTables(Host&) {
-    // The device's text widths are not read by the program yet.
+bool LoadFontWidthTables(Host& host) {
+    if (!LoadFontWidths(host)) return false;
+    // The glyphs the canvas draws device text with; they stand beside the
+    // width files and were made from the same pixels.
+    LoadDeviceFonts(host.ProgramDirectory());
     return true;
 }
 

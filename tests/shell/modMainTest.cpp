@@ -1,6 +1,10 @@
 // The start-up steps up to the loaded main window.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
+#include "canvas/DeviceFont.h"
+#include "canvas/FontWidths.h"
 #include "document/ObjectTypes.h"
 #include "document/PropertyLabels.h"
 #include "document/StringTable.h"
@@ -93,6 +97,34 @@ TEST_F(StartUpTest, TheInspectorGetsTheFormsListsAfterStartUp) {
 TEST_F(StartUpTest, StartUpShowsNoMessage) {
     auto window = StartUp(host, false);
     EXPECT_TRUE(host.messages.empty());
+}
+
+TEST_F(StartUpTest, TheWidthTablesAndDeviceFontsAreLoaded) {
+    FontSmallWidth().fill(0);
+    auto window = StartUp(host, false);
+    ASSERT_NE(window, nullptr);
+    EXPECT_GT(FontSmallWidth()['A'], 0);
+    EXPECT_GT(FontMediumWidth()['A'], FontSmallWidth()['A']);
+    EXPECT_NE(FindDeviceFont("TolvaSmall"), nullptr);
+    EXPECT_NE(FindDeviceFont("TolvaMedium"), nullptr);
+}
+
+TEST_F(StartUpTest, AMissingWidthFileEndsTheStartBeforeTheWindowWithItsMessage) {
+    const std::string dir = ::testing::TempDir() + "tolva_no_fonts";
+    std::filesystem::create_directories(dir);
+    std::filesystem::copy_file(std::string(TOLVA_SOURCE_DATA_DIR) + "/Strings.txt",
+                               dir + "/Strings.txt",
+                               std::filesystem::copy_options::overwrite_existing);
+    std::filesystem::copy_file(std::string(TOLVA_SOURCE_DATA_DIR) + "/FontSmallWidth.txt",
+                               dir + "/FontSmallWidth.txt",
+                               std::filesystem::copy_options::overwrite_existing);
+    host.programDirectory = dir;
+    host.useRealFileSystem = true;
+    auto window = StartUp(host, false);
+    EXPECT_EQ(window, nullptr);
+    EXPECT_EQ(host.MessageLines(),
+              std::vector<std::string>{"Files missing: Font definition files missing.  Cannot "
+                                       "continue.  Please reinstall Tolva Resource Editor."});
 }
 
 }  // namespace

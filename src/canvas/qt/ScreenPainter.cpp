@@ -1,5 +1,7 @@
 #include "canvas/qt/ScreenPainter.h"
 
+#include "canvas/DeviceFont.h"
+
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
@@ -156,6 +158,7 @@ void ScreenPainter::PaintElement(QPainter& painter, const DrawElement& element, 
         }
         case DrawElementKind::TextBox: {
             if (element.opaque) painter.fillRect(box, ToQColor(element.backColor));
+            if (PaintDeviceText(painter, element, placed)) break;
             QFont font = painter.font();
             if (!element.font.name.empty()) font.setFamily(FromCp1252(element.font.name));
             // A point is 20 screen units: the text keeps its size on the
@@ -189,6 +192,54 @@ void ScreenPainter::PaintElement(QPainter& painter, const DrawElement& element, 
             break;
         }
     }
+}
+
+bool ScreenPainter::PaintDeviceText(QPainter& painter, const DrawElement& element,
+                                    const CanvasRect& placed) {
+    const DeviceFont* font = FindDeviceFont(element.font.name);
+    const double dp = element.devicePixel;
+    if (!font || dp <= 0) return false;
+    if (placed.width <= 0 || placed.height <= 0) return true;
+
+    // A bold text doubles each ink pixel to its right: one more pixel a glyph.
+    const int extra = element.font.bold ? 1 : 0;
+    int textWidth = 0;
+    for (const char c : element.text) textWidth += font->Glyph(c).width + 1 + extra;
+    const int boxWidth = static_cast<int>(placed.width / dp);
+    const int boxHeight = static_cast<int>(placed.height / dp);
+    int x = 0;
+    if (element.alignment == TextAlignment::Center) x = (boxWidth - textWidth) / 2;
+    if (element.alignment == TextAlignment::Right) x = boxWidth - textWidth;
+    const int y = element.middle ? (boxHeight - font->height) / 2 : 0;
+
+    painter.save();
+    // Clipped at the box's sides; a box lower than the font still shows
+    // whole glyphs, as the device draws them.
+    CanvasRect clip = placed;
+    clip.height = std::max(placed.height, (y + font->height) * dp);
+    painter.setClipRect(ToPixels(clip), Qt::IntersectClip);
+    const QColor ink = ToQColor(element.foreColor);
+    // Whole desktop pixels for every device pixel edge, so that neighbouring
+    // squares meet without seams.
+    auto edge = [&](double units) { return std::round(ToPixels(units)); };
+    auto dot = [&](int px, int py) {
+        const double ux = placed.left + px * dp;
+        const double uy = placed.top + py * dp;
+        const double l = edge(ux), t = edge(uy), r = edge(ux + dp), b = edge(uy + dp);
+        painter.fillRect(QRectF(l, t, std::max(1.0, r - l), std::max(1.0, b - t)), ink);
+    };
+    for (const char c : element.text) {
+        const DeviceGlyph& glyph = font->Glyph(c);
+        for (int gy = 0; gy < font->height; ++gy)
+            for (int gx = 0; gx < glyph.width; ++gx)
+                if (glyph.Ink(gx, gy)) {
+                    dot(x + gx, y + gy);
+                    if (extra) dot(x + gx + 1, y + gy);
+                }
+        x += glyph.width + 1 + extra;
+    }
+    painter.restore();
+    return true;
 }
 
 const QImage& ScreenPainter::Picture(const std::string& path) {

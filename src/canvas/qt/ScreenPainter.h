@@ -34,6 +34,9 @@ public:
     // (screen units).
     void PaintObject(QPainter& painter, const KomaObject& object);
     void PaintElement(QPainter& painter, const DrawElement& element, double left, double top);
+    // Text in a device pixel font, one filled square per ink pixel; false
+    // when the element is no device text or its font is not loaded.
+    bool PaintDeviceText(QPainter& painter, const DrawElement& element, const CanvasRect& placed);
 
     QRectF ToPixels(const CanvasRect& rect) const;
     QPointF ToPixels(double x, double y) const;
