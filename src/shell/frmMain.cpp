@@ -28,6 +28,7 @@
 #include "shell/FitText.h"
 #include "shell/RunGuarded.h"
 #include "shell/WindowUnits.h"
+#include "shell/SettingsKeys.h"
 #include "shell/SortedComboBox.h"
 #include "shell/ToolTable.h"
 #include "shell/ToolbarIcons.h"
@@ -36,8 +37,6 @@ namespace tolva {
 
 namespace {
 
-constexpr const char* kSettingsApplication = "TolvaDesigner";
-constexpr const char* kSettingsSection = "Settings";
 constexpr const char* kFormEntry = "(Form)";
 
 // The client area, in screen units.
@@ -514,14 +513,6 @@ void frmMain::cmdDelete_Click() {
     designSaved_ = false;
 }
 
-void frmMain::cmdViewResFile_Click() {
-    // The viewer of the saved resource file comes with the file commands.
-}
-
-void frmMain::cmdViewHeaderFile_Click() {
-    // The viewer of the saved header file comes with the file commands.
-}
-
 // --- the inspector --------------------------------------------------------------------
 
 void frmMain::ClearPropertiesList() { ctlPropView_->ClearPropertiesList(); }
@@ -545,22 +536,6 @@ void frmMain::ctlPropView_PropertyChanged(const PropertyArray& values) {
 
 // --- menus ----------------------------------------------------------------------------
 
-void frmMain::mnuFileNew_Click() {
-    // New design: comes with the file commands.
-}
-
-void frmMain::mnuFileOpen_Click() {
-    // Open: comes with the file commands.
-}
-
-void frmMain::mnuFileSave_Click() {
-    // Save: comes with the file commands.
-}
-
-void frmMain::mnuFileSaveAs_Click() {
-    // Save As: comes with the file commands.
-}
-
 void frmMain::mnuExit_Click() { close(); }
 
 void frmMain::mnuEditDelete_Click() {
@@ -577,10 +552,6 @@ void frmMain::mnuEditOptions_Click() {
     // The options window is not in the program yet.
 }
 
-void frmMain::mnuViewResFile_Click() { cmdViewResFile_Click(); }
-
-void frmMain::mnuViewHeaderFile_Click() { cmdViewHeaderFile_Click(); }
-
 void frmMain::mnuViewObjectList_Click() {
     // Disabled for good: never runs.
 }
@@ -596,12 +567,6 @@ void frmMain::mnuHelpAbout_Click() {
 }
 
 // --- window events --------------------------------------------------------------------
-
-bool frmMain::QueryClose() {
-    // The question about unsaved changes and the writing of the settings
-    // come with the file commands; until then a close always goes on.
-    return true;
-}
 
 void frmMain::closeEvent(QCloseEvent* event) {
     bool goOn = true;

@@ -117,6 +117,7 @@ private:
     void cmbForms_Click();
     void cmbObjects_Click();
     void cmdDelete_Click();
+    // The two view buttons and the file commands (frmMainFileCommands.cpp).
     void cmdViewResFile_Click();
     void cmdViewHeaderFile_Click();
 
@@ -137,6 +138,10 @@ private:
 
     // The close rule of the window: true when the close may go on.
     bool QueryClose();
+    // Writes the three settings.
+    void WriteSettings();
+    // The warning after a save, when the settings ask for it.
+    void ShowBitmapWarningBox();
 
     Host& host_;
     frmLogSink logSink_;
