@@ -1,0 +1,198 @@
+// tolva-res run as a script runs it: in a directory of its own, with its
+// exit status and the lines it writes to standard error.
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+#include "BmpBytes.h"
+#include "cli/ResCommand.h"
+
+namespace tolva::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string ReadFile(const fs::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+void WriteFile(const fs::path& path, const std::string& bytes) {
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+std::string Golden(const std::string& name) {
+    return ReadFile(fs::path(TOLVA_TEST_DATA_DIR) / name);
+}
+
+class ResProgram : public ::testing::Test {
+protected:
+    void SetUp() override {
+        const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
+        dir = fs::path(::testing::TempDir()) / (std::string("tolva_res_") + info->name());
+        fs::remove_all(dir);
+        fs::create_directories(dir);
+    }
+    void TearDown() override { fs::remove_all(dir); }
+
+    // Runs the program in the test's directory; its standard error lands in
+    // err, its status is the answer.
+    int Run(const std::string& arguments) {
+        const std::string command = "cd '" + dir.string() + "' && '" TOLVA_RES_PROGRAM "' " +
+                                    arguments + " >run.stdout 2>run.stderr";
+        const int raw = std::system(command.c_str());
+        err = ReadFile(dir / "run.stderr");
+        out = ReadFile(dir / "run.stdout");
+        return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
+    }
+
+    // The lines of a record text joined with CR LF.
+    static std::string Text(std::initializer_list<const char*> lines) {
+        std::string text;
+        for (const char* line : lines) text += std::string(line) + "\r\n";
+        return text;
+    }
+
+    // The worked example's form with one line replaced.
+    static std::string FormWith(const std::string& from, const std::string& to) {
+        std::string text = Golden("worked_example_form.txt");
+        const auto at = text.find(from);
+        EXPECT_NE(at, std::string::npos) << from;
+        text.replace(at, from.size(), to);
+        return text;
+    }
+
+    fs::path dir;
+    std::string err;
+    std::string out;
+};
+
+TEST_F(ResProgram, TheWorkedExamplesFormGoesThroughResaveUnchangedWithItsHeader) {
+    WriteFile(dir / "in.txt", Golden("worked_example_form.txt"));
+    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+    // No FORM.BMP stands beside it: the form is told so, and keeps no bitmap.
+    EXPECT_EQ(err, "Tolva Resource Editor: Bitmap not found\n");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("worked_example_form.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("worked_example_form.h"));
+}
+
+TEST_F(ResProgram, WithFormBmpBesideItTheBitmapIsTheFormsOwnFromThenOn) {
+    WriteFile(dir / "in.txt", Golden("worked_example_form.txt"));
+    WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(err, "");
+    // The default's comment is gone: the file was found and chosen.
+    const std::string comment =
+        "//You did not specify a bitmap so this data has been put here by default\r\n";
+    std::string expected = Golden("worked_example_form.txt");
+    expected.erase(expected.find(comment), comment.size());
+    EXPECT_EQ(ReadFile(dir / "out.txt"), expected);
+    EXPECT_FALSE(fs::exists(dir / "out.h"));
+}
+
+TEST_F(ResProgram, CheckLoadsAndWritesNothing) {
+    WriteFile(dir / "in.txt", Golden("worked_example_form.txt"));
+    WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+    EXPECT_EQ(Run("check in.txt"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(std::distance(fs::directory_iterator(dir), fs::directory_iterator()), 4);
+}
+
+TEST_F(ResProgram, AnEmptyFileIsAnEmptyDesign) {
+    WriteFile(dir / "in.txt", "");
+    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("empty_design.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("empty_header.h"));
+}
+
+TEST_F(ResProgram, ABlankLineBetweenRecordsStopsTheLoadWithItsMessage) {
+    WriteFile(dir / "in.txt", Golden("worked_example_form.txt") + "\r\n" +
+                                  Golden("worked_example_form.txt"));
+    WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 1);
+    EXPECT_EQ(err, "Load Error: Invalid/unsupported resource object\n");
+    EXPECT_FALSE(fs::exists(dir / "out.txt"));
+}
+
+TEST_F(ResProgram, AnIdAboveSixteenBitsEndsTheLoadSilently) {
+    WriteFile(dir / "in.txt", FormWith("ID=0\r\n", "ID=40000\r\n"));
+    EXPECT_EQ(Run("check in.txt"), 2);
+    EXPECT_EQ(err.rfind("load ended: ", 0), 0u) << err;
+    EXPECT_EQ(std::count(err.begin(), err.end(), '\n'), 1);
+}
+
+TEST_F(ResProgram, AFileEndingInACommentEndsTheLoadSilently) {
+    WriteFile(dir / "in.txt", Golden("worked_example_form.txt") + "//the end\r\n");
+    EXPECT_EQ(Run("check in.txt"), 2);
+    EXPECT_EQ(err.rfind("load ended: ", 0), 0u) << err;
+}
+
+TEST_F(ResProgram, AMissingInputEndsTheLoad) {
+    EXPECT_EQ(Run("check nothing.txt"), 2);
+    EXPECT_EQ(err.rfind("load ended: ", 0), 0u) << err;
+}
+
+TEST_F(ResProgram, ABrokenFormLineIsToldWithItsNumberAndTheFormCannotBeLoaded) {
+    WriteFile(dir / "in.txt", FormWith("~F3\r\n", "~F4\r\n"));
+    EXPECT_EQ(Run("check in.txt"), 1);
+    // Line 21 of the file: the count takes in the banners' comment lines.
+    EXPECT_EQ(err.substr(0, err.find('\n')), "Tolva Resource Editor: Error on line 21:  ~F4");
+    EXPECT_NE(err.find("Load Error: Could not load form object\n"), std::string::npos) << err;
+}
+
+TEST_F(ResProgram, TwoObjectsOfOneNameAreRenamedAndTheLoadGoesOn) {
+    WriteFile(dir / "in.txt", FormWith("ID=0\r\n", "ID=3\r\n") + FormWith("ID=0\r\n", "ID=4\r\n"));
+    WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+    EXPECT_EQ(err,
+              "Tolva Resource Editor: The resource file specifies more than one object having "
+              "the same name.  The name of the succeeding object has been changed to "
+              "OBJECTSAMENAME_3\n");
+    EXPECT_NE(ReadFile(dir / "out.h").find("#define OBJECTSAMENAME_3 1\r\n"), std::string::npos);
+}
+
+TEST_F(ResProgram, AnOutputThatCannotBeWrittenIsASaveFailure) {
+    WriteFile(dir / "in.txt", "");
+    EXPECT_EQ(Run("resave in.txt no/such/dir/out.txt"), 2);
+    EXPECT_EQ(err.rfind("save failed: ", 0), 0u) << err;
+}
+
+TEST_F(ResProgram, AWrongCommandLineIsStatus64) {
+    EXPECT_EQ(Run(""), 64);
+    EXPECT_NE(err.find("usage: tolva-res"), std::string::npos);
+    EXPECT_EQ(Run("check"), 64);
+    EXPECT_EQ(Run("check a.txt b.txt"), 64);
+    EXPECT_EQ(Run("resave a.txt"), 64);
+    EXPECT_EQ(Run("resave a.txt b.txt c.h d"), 64);
+    EXPECT_EQ(Run("open a.txt"), 64);
+}
+
+TEST_F(ResProgram, HelpSaysHowAndTheExitStatuses) {
+    EXPECT_EQ(Run("--help"), 0);
+    EXPECT_NE(out.find("tolva-res check IN.txt"), std::string::npos);
+    EXPECT_NE(out.find("tolva-res resave IN.txt OUT.txt [OUT.h]"), std::string::npos);
+    EXPECT_NE(out.find("TITLE: TEXT"), std::string::npos);
+    EXPECT_NE(out.find("64"), std::string::npos);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(Run("-h"), 0);
+}
+
+// --- in process ---------------------------------------------------------------------------------
+
+TEST(ResCommand, TheCommandLineIsCheckedBeforeAnythingIsRead) {
+    std::ostringstream out;
+    std::ostringstream err;
+    EXPECT_EQ(RunResCommand({}, out, err), kResUsage);
+    EXPECT_EQ(RunResCommand({"--help", "x"}, out, err), kResUsage);
+    EXPECT_EQ(RunResCommand({"--help"}, out, err), kResLoaded);
+    EXPECT_NE(out.str().find("Exit status"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tolva::testing
