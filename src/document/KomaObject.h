@@ -154,6 +154,10 @@ protected:
     // A message box through the owner's host; empty title: the application's.
     void Message(const std::string& text, const std::string& title = "") const;
 
+    // Stores the related table's ID as it is, for a class whose setter tests
+    // something else.
+    void StoreRelatedTableID(long id) { relatedTableId_ = id; }
+
     // The stored object type word; subclasses repair it as their rules say.
     void SetObjectTypeWord(const std::string& word) { objectTypeWord_ = word; }
 

@@ -1,5 +1,9 @@
 #include "objects/KomaControl.h"
 
+#include "document/Numbers.h"
+#include "document/Words.h"
+#include "resfile/Banners.h"
+
 namespace tolva {
 
 KomaControl::KomaControl(int screenType, int controlStyle, const std::string& controlStyleWord,
@@ -15,11 +19,89 @@ int KomaControl::KOMAControlStyle() {
     return 0;
 }
 
+void KomaControl::KOMAControlText(const std::string& text) {
+    controlText_ = text;
+    LayOut();
+}
+
+int KomaControl::KOMATextAlignment() const { return AlignmentFromWord(alignmentWord_); }
+
+void KomaControl::KOMATextAlignment(int alignment) {
+    if (alignment < 0 || alignment > 2) return;
+    alignmentWord_ = WordFromAlignment(alignment);
+    LayOut();
+}
+
+void KomaControl::KOMARelatedTableID(long id) {
+    // The test looks at the value held before the assignment.
+    if (KOMARelatedTableID() < 0) {
+        Message("Invalid value", "KOMARelatedTableID");
+        return;
+    }
+    StoreRelatedTableID(id);
+}
+
 bool KomaControl::CopyModelFrom(const KomaObject& other) {
     const auto* control = dynamic_cast<const KomaControl*>(&other);
     if (!control || !KomaObject::CopyModelFrom(other)) return false;
     controlStyleWord_ = control->controlStyleWord_;
+    subtypeWord_ = control->subtypeWord_;
+    controlText_ = control->controlText_;
+    alignmentWord_ = control->alignmentWord_;
+    enableWord_ = control->enableWord_;
+    activeWord_ = control->activeWord_;
+    visibleWord_ = control->visibleWord_;
     return true;
+}
+
+void KomaControl::AppendControlHead(LineList& lines, const HeadComments& comments) const {
+    AppendRecordBanner(lines, KOMAName(), true);
+    lines.push_back("#CONTROL");
+    lines.push_back("NAME=" + KOMAName());
+    lines.push_back("ID=" + IntToText(KOMAObjectID()));
+    lines.push_back("~F0");
+    lines.push_back("(B)OBJECT.TYPE=" + KOMAObjectTypeWord());
+    lines.push_back("~F1");
+    lines.push_back("//0 - 65534 (if within table), 65535 means not within table");
+    lines.push_back("(U)RELATED_TABLE_ID=" + IntToText(KOMARelatedTableID()));
+    lines.push_back("~F2");
+    lines.push_back("//0 - 159");
+    lines.push_back("(SH)BOUNDS.X=" + IntToText(KOMABoundsX()));
+    lines.push_back("(SH)BOUNDS.Y=" + IntToText(KOMABoundsY()));
+    lines.push_back(comments.size);
+    lines.push_back("(SH)BOUNDS.WIDTH=" + IntToText(KOMAWidth()));
+    lines.push_back("(SH)BOUNDS.HEIGHT=" + IntToText(KOMAHeight()));
+    lines.push_back("~F3");
+    lines.push_back(comments.style);
+    lines.push_back("(B)CONTROL_STYLE=" + controlStyleWord_);
+    lines.push_back("~F4");
+    lines.push_back(comments.subtype);
+    lines.push_back("(B)CONTROL_SUBTYPE=" + subtypeWord_);
+    lines.push_back("~F5");
+    lines.push_back("//any text");
+    lines.push_back("(S)CONTROL_TEXT=" + controlText_);
+    lines.push_back("~F6");
+    lines.push_back("//LEFT,CENTRE,RIGHT");
+    lines.push_back("(B)TEXTMENT=" + alignmentWord_);
+    lines.push_back("~F7");
+    lines.push_back("//TRUE or FALSE");
+    lines.push_back("(BO)CONTROL_ATTR.ENABLE=" + enableWord_);
+    lines.push_back("(BO)CONTROL_ATTR.ACTIVE=" + activeWord_);
+    lines.push_back("(BO)CONTROL_ATTR.VISIBLE=" + visibleWord_);
+}
+
+void KomaControl::ApplyControlHeadGroups(const GroupList& groups) {
+    const double scale = PCTwipsToTolvaPixels();
+    KOMAName(groups[0][0]);
+    KOMABoundsX(ToInt16(groups[1][0]));
+    KOMABoundsY(ToInt16(groups[1][1]));
+    SetCanvasSize(ToInt16(groups[1][2]) * scale, ToInt16(groups[1][3]) * scale);
+    ApplySubTypeWord(groups[2].empty() ? "" : groups[2][0]);
+    KOMAControlText(groups[3].empty() ? "" : groups[3][0]);
+    KOMATextAlignment(AlignmentFromWord(groups[4].empty() ? "" : groups[4][0]));
+    KOMAEnable(BooleanFromWord(groups[5][0]) != 0);
+    KOMAActive(BooleanFromWord(groups[5][1]) != 0);
+    KOMAVisible(BooleanFromWord(groups[5][2]) != 0);
 }
 
 }  // namespace tolva

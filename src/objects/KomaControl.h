@@ -1,7 +1,9 @@
 #pragma once
 // KomaControl: what the control family (button, repeat button, push button,
 // check box, popup trigger) shares. All of them are written as #CONTROL
-// records and told apart by their control style word.
+// records with one common head and told apart by their control style word;
+// the head's values (subtype, text, alignment, the three attributes) live
+// here, and so do the writer of the head and the applying of its groups.
 #include <string>
 
 #include "document/KomaObject.h"
@@ -16,6 +18,30 @@ public:
     virtual int KOMAControlStyle();
     const std::string& KOMAControlStyleWord() const { return controlStyleWord_; }
 
+    // --- the head's values ------------------------------------------------------
+    const std::string& KOMAControlText() const { return controlText_; }
+    virtual void KOMAControlText(const std::string& text);
+    // "LEFT" 0, "CENTRE" 1, "RIGHT" 2; another number changes nothing.
+    int KOMATextAlignment() const;
+    void KOMATextAlignment(int alignment);
+    const std::string& KOMATextAlignmentWord() const { return alignmentWord_; }
+    const std::string& KOMAControlSubTypeWord() const { return subtypeWord_; }
+    // The three attributes: booleans here, "TRUE" or "FALSE" in store.
+    bool KOMAEnable() const { return enableWord_ == "TRUE"; }
+    void KOMAEnable(bool value) { enableWord_ = value ? "TRUE" : "FALSE"; }
+    bool KOMAActive() const { return activeWord_ == "TRUE"; }
+    void KOMAActive(bool value) { activeWord_ = value ? "TRUE" : "FALSE"; }
+    bool KOMAVisible() const { return visibleWord_ == "TRUE"; }
+    void KOMAVisible(bool value) { visibleWord_ = value ? "TRUE" : "FALSE"; }
+    const std::string& KOMAEnableWord() const { return enableWord_; }
+    const std::string& KOMAActiveWord() const { return activeWord_; }
+    const std::string& KOMAVisibleWord() const { return visibleWord_; }
+
+    // A control refuses a related table only while the value held is
+    // negative, whatever the new one.
+    void KOMARelatedTableID(long id) override;
+    using KomaObject::KOMARelatedTableID;
+
     bool CopyModelFrom(const KomaObject& other) override;
 
 protected:
@@ -23,11 +49,40 @@ protected:
                 int defaultWidth, int defaultHeight);
 
     void SetControlStyleWord(const std::string& word) { controlStyleWord_ = word; }
+    void SetControlSubTypeWord(const std::string& word) { subtypeWord_ = word; }
+    void SetTextAlignmentWord(const std::string& word) { alignmentWord_ = word; }
+
+    // The comments a kind writes in its head: the one above the style word
+    // ("// Always BUTTON") and the one above the subtype word.
+    struct HeadComments {
+        std::string style;
+        std::string subtype;
+        // The comment above the width and height; one kind writes "//0 - 159".
+        std::string size = "//0 - 160";
+    };
+    // Appends the banner and the head of the record, "#CONTROL" to the
+    // "(BO)CONTROL_ATTR.VISIBLE=" line.
+    void AppendControlHead(LineList& lines, const HeadComments& comments) const;
+
+    // Applies the head's groups 0 to 5 of a loaded record, each through its
+    // setter: name, X, Y, the size (as screen size), subtype (by the kind's
+    // word conversion), text, alignment, the three attributes. Throws
+    // RuntimeFailure on a number that cannot be converted.
+    void ApplyControlHeadGroups(const GroupList& groups);
+    // The subtype of a kind from its word; each kind converts its own words,
+    // until then the word is kept as it stands.
+    virtual void ApplySubTypeWord(const std::string& word) { subtypeWord_ = word; }
 
 private:
     int ownControlStyle_;
     std::string ownControlStyleWord_;
     std::string controlStyleWord_;
+    std::string subtypeWord_;
+    std::string controlText_;
+    std::string alignmentWord_ = "CENTRE";
+    std::string enableWord_ = "TRUE";
+    std::string activeWord_ = "TRUE";
+    std::string visibleWord_ = "TRUE";
 };
 
 }  // namespace tolva

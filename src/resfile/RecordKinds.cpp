@@ -1,7 +1,9 @@
 #include "resfile/RecordKinds.h"
 
 #include "document/ObjectTypes.h"
+#include "objects/ControlRecord.h"
 #include "objects/FormRecord.h"
+#include "objects/modButton.h"
 
 namespace tolva {
 
@@ -28,9 +30,10 @@ RecordKinds MakeStandardKinds() {
         {"#TEXTBOX", type::Textbox, nullptr, "Could not load textbox object",
          "Could not create textbox"},
     };
-    kinds.controlHead = {"#CONTROL", type::None, nullptr, "Could not load control object", ""};
+    kinds.controlHead = {"#CONTROL", type::None, ParseControlRecordHead,
+                         "Could not load control object", ""};
     kinds.controlStyles = {
-        {"BUTTON", type::Button, nullptr, "Could not load button object",
+        {"BUTTON", type::Button, ParseButtonRecordTail, "Could not load button object",
          "Could not create button"},
         {"POPUP_TRIGGER", type::PopupTrigger, nullptr, "Could not load popuptrigger object",
          "Could not create popuptrigger"},

@@ -9,6 +9,7 @@
 #include "document/Words.h"
 #include "inspector/ValueLists.h"
 #include "objects/FormStyles.h"
+#include "objects/modButton.h"
 #include "platform/QtHost.h"
 #include "shell/FilePaths.h"
 #include "shell/RunGuarded.h"
@@ -39,7 +40,7 @@ bool LoadFontWidthTables(Host& host) {
 const std::vector<ValueListStep>& ValueListSteps() {
     static const std::vector<ValueListStep> steps = {
         {"form", type::Form, &FillFormValueLists},
-        {"button", type::Button, nullptr},
+        {"button", type::Button, &FillButtonValueLists},
         {"string", type::String, nullptr},
         {"repeat button", type::RepeatButton, nullptr},
         {"bitmap", type::Bitmap, nullptr},

@@ -36,11 +36,17 @@ TEST(DrawElement, BuildersGiveTheirKinds) {
     EXPECT_EQ(image.imagePath, "c:\\a.bmp");
 }
 
+// A kind with no drawing of its own.
+class PlainObject : public KomaObject {
+public:
+    explicit PlainObject(int screenType) : KomaObject(screenType, "PLAIN", 40, 14) {}
+};
+
 TEST(DefaultDrawing, OutlinedBoxWithTheNameAcrossTheObject) {
-    ctlKOMAButton button;
-    button.KOMAName("BUTTON_7");
-    button.SetCanvasSize(1000, 400);
-    const DrawElementList elements = button.GetDrawElements();
+    PlainObject object(type::Button);
+    object.KOMAName("BUTTON_7");
+    object.SetCanvasSize(1000, 400);
+    const DrawElementList elements = object.GetDrawElements();
     ASSERT_EQ(elements.size(), 2u);
     EXPECT_EQ(elements[0].kind, DrawElementKind::Shape);
     EXPECT_TRUE(elements[0].outline);
@@ -51,12 +57,6 @@ TEST(DefaultDrawing, OutlinedBoxWithTheNameAcrossTheObject) {
     EXPECT_EQ(elements[1].alignment, TextAlignment::Center);
     EXPECT_EQ(elements[1].rect, (CanvasRect{0, 0, 1000, 400}));
 }
-
-// A kind with no drawing of its own.
-class PlainObject : public KomaObject {
-public:
-    explicit PlainObject(int screenType) : KomaObject(screenType, "PLAIN", 40, 14) {}
-};
 
 TEST(DefaultDrawing, FollowsTheSizeAndName) {
     PlainObject object(type::Button);

@@ -9,6 +9,7 @@
 #include "document/ObjectTypes.h"
 #include "document/RuntimeFailure.h"
 #include "objects/ctlKOMAButton.h"
+#include "objects/ctlKOMAString.h"
 #include "support/RecordingOwner.h"
 #include "support/TestStrings.h"
 
@@ -66,13 +67,26 @@ TEST_F(KomaObjectTest, BoundsYAndSizeRangesWithTheirTitles) {
 }
 
 TEST_F(KomaObjectTest, RelatedTableId65535IsValidAndMeansNoTable) {
-    EXPECT_EQ(button.KOMARelatedTableID(), kNotInTable);
-    button.KOMARelatedTableID(3);
-    button.KOMARelatedTableID(65535);
-    EXPECT_EQ(button.KOMARelatedTableID(), 65535);
+    // An object outside the control family refuses a negative ID.
+    ctlKOMAString text;
+    text.SetOwner(&owner);
+    EXPECT_EQ(text.KOMARelatedTableID(), kNotInTable);
+    text.KOMARelatedTableID(3);
+    text.KOMARelatedTableID(65535);
+    EXPECT_EQ(text.KOMARelatedTableID(), 65535);
     EXPECT_TRUE(owner.host.messages.empty());
-    button.KOMARelatedTableID(-1);
-    EXPECT_EQ(button.KOMARelatedTableID(), 65535);
+    text.KOMARelatedTableID(-1);
+    EXPECT_EQ(text.KOMARelatedTableID(), 65535);
+    EXPECT_EQ(Messages(), (std::vector<std::string>{"KOMARelatedTableID: Invalid value"}));
+}
+
+TEST_F(KomaObjectTest, AControlTestsTheRelatedTableItHoldsNotTheNewOne) {
+    EXPECT_EQ(button.KOMARelatedTableID(), kNotInTable);
+    button.KOMARelatedTableID(-1);  // the held 65535 is fine: -1 is taken
+    EXPECT_EQ(button.KOMARelatedTableID(), -1);
+    EXPECT_TRUE(owner.host.messages.empty());
+    button.KOMARelatedTableID(7);  // now the held value is negative: refused
+    EXPECT_EQ(button.KOMARelatedTableID(), -1);
     EXPECT_EQ(Messages(), (std::vector<std::string>{"KOMARelatedTableID: Invalid value"}));
 }
 

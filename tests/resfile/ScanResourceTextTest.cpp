@@ -91,9 +91,15 @@ TEST_F(ScanTest, ASectionWhoseKindReadsNoRecordYetIsAnUnsupportedLine) {
               std::vector<std::string>{"Load Error: Invalid/unsupported resource object"});
 }
 
-TEST_F(ScanTest, TheProgramsKindsReadNoControlYet) {
+TEST_F(ScanTest, AControlStyleWhoseKindReadsNoTailYetIsAnUnsupportedLine) {
     kinds = StandardRecordKinds();
-    EXPECT_FALSE(Scan({"#CONTROL", "NAME=BUTTON_1"}));
+    EXPECT_FALSE(Scan({"#CONTROL", "NAME=CHECKBOX_1", "ID=1", "~F0", "(B)OBJECT.TYPE=CONTROL",
+                       "~F1", "(U)RELATED_TABLE_ID=65535", "~F2", "(SH)BOUNDS.X=0",
+                       "(SH)BOUNDS.Y=0", "(SH)BOUNDS.WIDTH=10", "(SH)BOUNDS.HEIGHT=10", "~F3",
+                       "(B)CONTROL_STYLE=CHECKBOX", "~F4", "(B)CONTROL_SUBTYPE=X", "~F5",
+                       "(S)CONTROL_TEXT=a", "~F6", "(B)TEXTMENT=LEFT", "~F7",
+                       "(BO)CONTROL_ATTR.ENABLE=TRUE", "(BO)CONTROL_ATTR.ACTIVE=TRUE",
+                       "(BO)CONTROL_ATTR.VISIBLE=TRUE", "~F9", "#END_CONTROL"}));
     EXPECT_EQ(host.MessageLines(),
               std::vector<std::string>{"Load Error: Invalid/unsupported resource object"});
 }

@@ -189,7 +189,9 @@ TEST_F(CanvasWidgetTest, PaintingTheWindowShowsTheSelectedButtonsNodes) {
     EXPECT_EQ(image.pixelColor((inNode * ratio).toPoint()), QColor(0, 0, 0xC0));
     EXPECT_EQ(image.pixelColor(QPoint(3, 3) * ratio), QColor(0xC0, 0xC0, 0xC0));
     EXPECT_EQ(image.pixelColor(QPoint(410, 410) * ratio), QColor(0xC0, 0xC0, 0xC0));
-    const QPointF inButton = CanvasWidget::ToPixels(Button()->Left() + 30, Button()->Top() + 30);
+    // Inside the rounded box, below its text.
+    const QPointF inButton = CanvasWidget::ToPixels(Button()->Left() + 60,
+                                                    Button()->Top() + Button()->Height() - 60);
     EXPECT_EQ(image.pixelColor((inButton * ratio).toPoint()), QColor(Qt::white));
     EXPECT_EQ(image.pixelColor(QPoint(300, 103) * ratio), QColor(0xE0, 0xE0, 0xE0));
 }
