@@ -82,6 +82,14 @@ TEST_F(ResProgram, TheWorkedExamplesFormGoesThroughResaveUnchangedWithItsHeader)
     EXPECT_EQ(ReadFile(dir / "out.h"), Golden("worked_example_form.h"));
 }
 
+TEST_F(ResProgram, TheWholeWorkedExampleWithItsButtonGoesThroughResaveUnchanged) {
+    WriteFile(dir / "in.txt", Golden("worked_example.txt"));
+    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+    EXPECT_EQ(err, "Tolva Resource Editor: Bitmap not found\n");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("worked_example.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("worked_example.h"));
+}
+
 TEST_F(ResProgram, WithFormBmpBesideItTheBitmapIsTheFormsOwnFromThenOn) {
     WriteFile(dir / "in.txt", Golden("worked_example_form.txt"));
     WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
