@@ -4,6 +4,7 @@
 #include "objects/ControlRecord.h"
 #include "objects/FormRecord.h"
 #include "objects/modButton.h"
+#include "objects/modString.h"
 
 namespace tolva {
 
@@ -24,7 +25,7 @@ RecordKinds MakeStandardKinds() {
          "Could not create scheduler line"},
         {"#SCROLLBAR", type::Scrollbar, nullptr, "Could not load scrollbar object",
          "Could not create scrollbar"},
-        {"#STRING", type::String, nullptr, "Could not load string object",
+        {"#STRING", type::String, ParseStringRecord, "Could not load string object",
          "Could not create string"},
         {"#TABLE", type::Table, nullptr, "Could not load table object", "Could not create table"},
         {"#TEXTBOX", type::Textbox, nullptr, "Could not load textbox object",

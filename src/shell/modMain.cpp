@@ -10,6 +10,7 @@
 #include "inspector/ValueLists.h"
 #include "objects/FormStyles.h"
 #include "objects/modButton.h"
+#include "objects/modString.h"
 #include "platform/QtHost.h"
 #include "shell/FilePaths.h"
 #include "shell/RunGuarded.h"
@@ -41,7 +42,7 @@ const std::vector<ValueListStep>& ValueListSteps() {
     static const std::vector<ValueListStep> steps = {
         {"form", type::Form, &FillFormValueLists},
         {"button", type::Button, &FillButtonValueLists},
-        {"string", type::String, nullptr},
+        {"string", type::String, &FillStringValueLists},
         {"repeat button", type::RepeatButton, nullptr},
         {"bitmap", type::Bitmap, nullptr},
         {"checkbox", type::Checkbox, nullptr},
