@@ -67,7 +67,10 @@ bool ctlKOMAString::SetPropertyList(const PropertyArray& rows) {
     KOMAText(rows.Value(7).Text());
     KOMAFontColor(ColorFromWord(rows.Value(8).Text()));
     KOMABackColor(ColorFromWord(rows.Value(9).Text()));
-    KOMAFont(FontFromWord(rows.Value(10).Text()));
+    // Only a font that changed is set: the setter lays the String out, and a
+    // new style is to show with the next resize, not with this call.
+    const int font = FontFromWord(rows.Value(10).Text());
+    if (font != KOMAFont()) KOMAFont(font);
     KOMATextAlignment(AlignmentFromWord(rows.Value(11).Text()));
     KOMAVisible(BooleanFromWord(rows.Value(12).Text()) != 0);
     return true;
