@@ -49,8 +49,11 @@ DrawElementList ctlKOMAString::GetDrawElements() const {
     text.font = DrawFont{StringScreenFont(fontWord_), StringFontSize(fontWord_), false};
     text.devicePixel = PCTwipsToTolvaPixels();
     text.foreColor = ScreenColor(fontColorWord_);
-    text.opaque = true;
-    text.backColor = {0xE0, 0xE0, 0xE0};  // its own, whatever the properties say
+    // The text box keeps its own grey, which no property changes, but it is
+    // drawn clear: the String's background colour shows behind the text, as
+    // it does on the device.
+    text.opaque = false;
+    text.backColor = {0xE0, 0xE0, 0xE0};
     const int alignment = KOMATextAlignment();
     text.alignment = alignment == 1   ? TextAlignment::Center
                      : alignment == 2 ? TextAlignment::Right
