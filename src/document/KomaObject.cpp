@@ -95,36 +95,46 @@ void KomaObject::KOMARelatedTableID(long id) {
     relatedTableId_ = id;
 }
 
+namespace {
+
+// The device kind of a screen type.
+int OwnKind(int screenType) {
+    switch (screenType) {
+        case type::Form: return kind::Form;
+        case type::Button:
+        case type::RepeatButton:
+        case type::PushButton:
+        case type::Checkbox:
+        case type::PopupTrigger: return kind::Control;
+        case type::Bitmap: return kind::Bitmap;
+        case type::Field: return kind::Field;
+        case type::Line: return kind::Line;
+        case type::List: return kind::List;
+        case type::Menu: return kind::Menu;
+        case type::Scrollbar: return kind::Scrollbar;
+        case type::String: return kind::String;
+        case type::Table: return kind::Table;
+        case type::Textbox: return kind::Textbox;
+        case type::SchedulerLine: return kind::SchedulerLine;
+        default: return 0;
+    }
+}
+
+// The object type word of a screen type.
+std::string ClassWord(int screenType) {
+    switch (OwnKind(screenType)) {
+        case kind::Form: return "FORM";
+        case kind::Control: return "CONTROL";
+        default: return ScreenTypeWord(screenType);
+    }
+}
+
+}  // namespace
+
 int KomaObject::KOMAObjectType() {
     // The kind number of this class's own word; a word "0" is repaired.
-    const int own = [&] {
-        switch (screenType_) {
-            case type::Form: return kind::Form;
-            case type::Button:
-            case type::RepeatButton:
-            case type::PushButton:
-            case type::Checkbox:
-            case type::PopupTrigger: return kind::Control;
-            case type::Bitmap: return kind::Bitmap;
-            case type::Field: return kind::Field;
-            case type::Line: return kind::Line;
-            case type::List: return kind::List;
-            case type::Menu: return kind::Menu;
-            case type::Scrollbar: return kind::Scrollbar;
-            case type::String: return kind::String;
-            case type::Table: return kind::Table;
-            case type::Textbox: return kind::Textbox;
-            case type::SchedulerLine: return kind::SchedulerLine;
-            default: return 0;
-        }
-    }();
-    const std::string classWord = [&]() -> std::string {
-        switch (own) {
-            case kind::Form: return "FORM";
-            case kind::Control: return "CONTROL";
-            default: return ScreenTypeWord(screenType_);
-        }
-    }();
+    const int own = OwnKind(screenType_);
+    const std::string classWord = ClassWord(screenType_);
     if (objectTypeWord_ == classWord) return own;
     if (objectTypeWord_ == "0") {
         Message("Invalid object type", "KOMAObjectType");
@@ -132,6 +142,15 @@ int KomaObject::KOMAObjectType() {
         return own;
     }
     return 0;
+}
+
+void KomaObject::KOMAObjectType(int kind) {
+    if (kind == 0) {
+        Message("Invalid object type", "KOMAObjectType");
+    } else if (kind != OwnKind(screenType_)) {
+        return;
+    }
+    objectTypeWord_ = ClassWord(screenType_);
 }
 
 void KomaObject::KOMABoundsX(int x) {

@@ -73,6 +73,10 @@ public:
 
     // The device kind, from the stored word.
     virtual int KOMAObjectType();
+    // The setter: the class's own kind stores its word; kind 0 shows "Invalid
+    // object type" and stores the word all the same; any other kind is passed
+    // over.
+    void KOMAObjectType(int kind);
     // The stored word ("FORM", "CONTROL", "BITMAP", ...).
     const std::string& KOMAObjectTypeWord() const { return objectTypeWord_; }
 

@@ -92,6 +92,14 @@ TEST_F(ButtonTest, AWidthOf160IsTakenAndAnXOf160Refused) {
                                                     "Tolva Resource Editor: Invalid value"}));
 }
 
+TEST_F(ButtonTest, ObjectTypeZeroIsReportedAndControlStoredAllTheSame) {
+    button.KOMAObjectType(0);
+    EXPECT_EQ(button.KOMAObjectTypeWord(), "CONTROL");
+    EXPECT_EQ(button.KOMAObjectType(), 1);
+    button.KOMAObjectType(1);
+    EXPECT_EQ(Messages(), std::vector<std::string>{"KOMAObjectType: Invalid object type"});
+}
+
 TEST_F(ButtonTest, StyleWordsUpperCaseFirstAndKnowTwoStyles) {
     EXPECT_EQ(ButtonStyleWordToNumber("button_style_1"), 1);
     EXPECT_EQ(ButtonStyleWordToNumber("BUTTON_STYLE_0"), 0);

@@ -70,6 +70,15 @@ TEST_F(StringTest, SettersStoreTheirWordsOrChangeNothing) {
     EXPECT_TRUE(owner.host.messages.empty());
 }
 
+TEST_F(StringTest, ObjectTypeZeroIsReportedAndStringStoredAllTheSame) {
+    text.KOMAObjectType(0);
+    EXPECT_EQ(text.KOMAObjectTypeWord(), "STRING");
+    EXPECT_EQ(text.KOMAObjectType(), 8);
+    text.KOMAObjectType(8);
+    EXPECT_EQ(owner.host.MessageLines(),
+              std::vector<std::string>{"KOMAObjectType: Invalid object type"});
+}
+
 TEST_F(StringTest, StyleWordsUpperCaseAndKnowSix) {
     EXPECT_EQ(StringStyleWordToNumber("string_style_5"), 5);
     EXPECT_EQ(StringStyleWordToNumber("STRING_STYLE_6"), 0);
