@@ -1,6 +1,6 @@
 #include "objects/ControlRecord.h"
 
-#include "document/Numbers.h"
+#include "objects/RecordHeads.h"
 #include "resfile/LoadedRecord.h"
 #include "resfile/RecordReader.h"
 
@@ -18,27 +18,8 @@ bool WordKey(RecordReader& in, const char* key, ValueGroup& group) {
 }  // namespace
 
 bool ParseControlRecordHead(RecordReader& in, LoadedRecord& record) {
-    record = LoadedRecord{};
-    record.groups.assign(6, ValueGroup{});
+    if (!ParseHeadA(in, record, 6)) return false;
     GroupList& g = record.groups;
-
-    if (!in.Key("NAME=", record.name)) return false;
-    g[0].push_back(record.name);
-    if (!in.Int16Key("ID=", record.id)) return false;
-    g[0].push_back(IntToText(record.id));
-    if (!in.Word("~F0")) return false;
-    std::string typeWord;
-    if (!in.Key("(B)OBJECT.TYPE=", typeWord)) return false;
-    if (!in.Word("~F1")) return false;
-    if (!in.Int32Key("(U)RELATED_TABLE_ID=", record.relatedTableId)) return false;
-    if (!in.Word("~F2")) return false;
-    for (const char* key :
-         {"(SH)BOUNDS.X=", "(SH)BOUNDS.Y=", "(SH)BOUNDS.WIDTH=", "(SH)BOUNDS.HEIGHT="}) {
-        int value = 0;
-        if (!in.Int16Key(key, value)) return false;
-        g[1].push_back(IntToText(value));
-    }
-    if (!in.Word("~F3")) return false;
     if (!in.Key("(B)CONTROL_STYLE=", record.kindWord)) return false;
     if (!in.Word("~F4")) return false;
     if (!WordKey(in, "(B)CONTROL_SUBTYPE=", g[2])) return false;

@@ -8,6 +8,7 @@
 #include "objects/FormStyles.h"
 #include "objects/ctlKOMAForm.h"
 #include "objects/ctlKOMATable.h"
+#include "objects/RecordHeads.h"
 #include "resfile/Banners.h"
 #include "resfile/LoadedRecord.h"
 #include "resfile/RecordReader.h"
@@ -41,19 +42,7 @@ void ctlKOMAForm::ReturnResourceFileText(LineList& lines, bool& ok) {
     };
 
     AppendRecordBanner(lines, KOMAName(), false);
-    lines.push_back("#FORM");
-    lines.push_back("NAME=" + KOMAName());
-    lines.push_back("ID=" + IntToText(KOMAObjectID()));
-    lines.push_back("~F0");
-    lines.push_back("(B)OBJECT.TYPE=" + KOMAObjectTypeWord());
-    lines.push_back("~F1");
-    lines.push_back("//0 - 159");
-    lines.push_back("(SH)BOUNDS.X=" + IntToText(KOMABoundsX()));
-    lines.push_back("(SH)BOUNDS.Y=" + IntToText(KOMABoundsY()));
-    lines.push_back("//0 - 160");
-    lines.push_back("(SH)BOUNDS.WIDTH=" + IntToText(KOMAWidth()));
-    lines.push_back("(SH)BOUNDS.HEIGHT=" + IntToText(KOMAHeight()));
-    lines.push_back("~F2");
+    AppendHeadB(lines, *this, "#FORM");
     int focusedId = 0;
     if (!idOf(focusedObject_, focusedId)) focusedId = 0;
     lines.push_back("(U)FOCUSED_OBJECT=" + IntToText(focusedId));

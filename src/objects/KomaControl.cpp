@@ -2,6 +2,7 @@
 
 #include "document/Numbers.h"
 #include "document/Words.h"
+#include "objects/RecordHeads.h"
 #include "resfile/Banners.h"
 
 namespace tolva {
@@ -56,22 +57,7 @@ bool KomaControl::CopyModelFrom(const KomaObject& other) {
 
 void KomaControl::AppendControlHead(LineList& lines, const HeadComments& comments) const {
     AppendRecordBanner(lines, KOMAName(), true);
-    lines.push_back("#CONTROL");
-    lines.push_back("NAME=" + KOMAName());
-    lines.push_back("ID=" + IntToText(KOMAObjectID()));
-    lines.push_back("~F0");
-    lines.push_back("(B)OBJECT.TYPE=" + KOMAObjectTypeWord());
-    lines.push_back("~F1");
-    lines.push_back("//0 - 65534 (if within table), 65535 means not within table");
-    lines.push_back("(U)RELATED_TABLE_ID=" + IntToText(KOMARelatedTableID()));
-    lines.push_back("~F2");
-    lines.push_back("//0 - 159");
-    lines.push_back("(SH)BOUNDS.X=" + IntToText(KOMABoundsX()));
-    lines.push_back("(SH)BOUNDS.Y=" + IntToText(KOMABoundsY()));
-    lines.push_back(comments.size);
-    lines.push_back("(SH)BOUNDS.WIDTH=" + IntToText(KOMAWidth()));
-    lines.push_back("(SH)BOUNDS.HEIGHT=" + IntToText(KOMAHeight()));
-    lines.push_back("~F3");
+    AppendHeadA(lines, *this, "#CONTROL", comments.size);
     lines.push_back(comments.style);
     lines.push_back("(B)CONTROL_STYLE=" + controlStyleWord_);
     lines.push_back("~F4");

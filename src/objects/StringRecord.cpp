@@ -4,28 +4,14 @@
 #include "document/Words.h"
 #include "objects/ctlKOMAString.h"
 #include "objects/modString.h"
+#include "objects/RecordHeads.h"
 #include "resfile/Banners.h"
 
 namespace tolva {
 
 void ctlKOMAString::ReturnResourceFileText(LineList& lines, bool& ok) {
     AppendRecordBanner(lines, KOMAName(), false);
-    lines.push_back("#STRING");
-    lines.push_back("NAME=" + KOMAName());
-    lines.push_back("ID=" + IntToText(KOMAObjectID()));
-    lines.push_back("~F0");
-    lines.push_back("(B)OBJECT.TYPE=" + KOMAObjectTypeWord());
-    lines.push_back("~F1");
-    lines.push_back("//0 - 65534 (if within table), 65535 means not within table");
-    lines.push_back("(U)RELATED_TABLE_ID=" + IntToText(KOMARelatedTableID()));
-    lines.push_back("~F2");
-    lines.push_back("//0 - 159");
-    lines.push_back("(SH)BOUNDS.X=" + IntToText(KOMABoundsX()));
-    lines.push_back("(SH)BOUNDS.Y=" + IntToText(KOMABoundsY()));
-    lines.push_back("//0 - 160");
-    lines.push_back("(SH)BOUNDS.WIDTH=" + IntToText(KOMAWidth()));
-    lines.push_back("(SH)BOUNDS.HEIGHT=" + IntToText(KOMAHeight()));
-    lines.push_back("~F3");
+    AppendHeadA(lines, *this, "#STRING");
     lines.push_back("//STRING_STYLE_0,STRING_STYLE_1,STRING_STYLE_2");
     lines.push_back("(B)STRING_STYLE=" + styleWord_);
     lines.push_back("~F4");

@@ -1,6 +1,6 @@
 #include "objects/modString.h"
 
-#include "document/Numbers.h"
+#include "objects/RecordHeads.h"
 #include "document/TextHelpers.h"
 #include "document/Words.h"
 #include "resfile/LoadedRecord.h"
@@ -37,8 +37,7 @@ std::string StringScreenFont(const std::string& fontWord) {
 double StringFontSize(const std::string& fontWord) { return FontFromWord(fontWord) == 1 ? 19 : 14; }
 
 bool ParseStringRecord(RecordReader& in, LoadedRecord& record) {
-    record = LoadedRecord{};
-    record.groups.assign(9, ValueGroup{});
+    if (!ParseHeadA(in, record, 9)) return false;
     GroupList& g = record.groups;
     auto word = [&](const char* key, int group) {
         std::string value;
@@ -47,22 +46,7 @@ bool ParseStringRecord(RecordReader& in, LoadedRecord& record) {
         return true;
     };
 
-    if (!in.Key("NAME=", record.name)) return false;
-    g[0].push_back(record.name);
-    if (!in.Int16Key("ID=", record.id)) return false;
-    g[0].push_back(IntToText(record.id));
-    if (!in.Word("~F0")) return false;
-    if (!in.Key("(B)OBJECT.TYPE=", record.kindWord)) return false;
-    if (!in.Word("~F1")) return false;
-    if (!in.Int32Key("(U)RELATED_TABLE_ID=", record.relatedTableId)) return false;
-    if (!in.Word("~F2")) return false;
-    for (const char* key :
-         {"(SH)BOUNDS.X=", "(SH)BOUNDS.Y=", "(SH)BOUNDS.WIDTH=", "(SH)BOUNDS.HEIGHT="}) {
-        int value = 0;
-        if (!in.Int16Key(key, value)) return false;
-        g[1].push_back(IntToText(value));
-    }
-    if (!in.Word("~F3") || !word("(B)STRING_STYLE=", 2)) return false;
+    if (!word("(B)STRING_STYLE=", 2)) return false;
     if (!in.Word("~F4") || !word("(S)STRING_TEXT=", 3)) return false;
     if (!in.Word("~F5") || !word("(B)STRING_FONT_COLOR=", 4)) return false;
     if (!in.Word("~F6") || !word("(B)STRING_BACKGROUND_COLOR=", 5)) return false;

@@ -1,0 +1,29 @@
+#pragma once
+// The common heads of the records. Head A (the kinds that may stand in a
+// table cell) runs from "NAME=" over "(U)RELATED_TABLE_ID=" and the bounds
+// to "~F3"; head B (form, menu, scheduler line, table) has no related table
+// and ends at "~F2". Each kind's record goes on from there.
+#include <string>
+
+#include "document/KomaObject.h"
+
+namespace tolva {
+
+class RecordReader;
+struct LoadedRecord;
+
+// Writes the section word ("#CONTROL", "#STRING", ...) and head A. The
+// comment above the width and height is "//0 - 160" but for one kind.
+void AppendHeadA(LineList& lines, const KomaObject& object, const std::string& sectionWord,
+                 const std::string& sizeComment = "//0 - 160");
+
+// Writes the section word and head B.
+void AppendHeadB(LineList& lines, const KomaObject& object, const std::string& sectionWord);
+
+// Reads head A into a fresh record of groupCount groups: group 0 name and
+// ID, group 1 x, y, width, height; the type word to kindWord, the related
+// table to relatedTableId. False, after the message of the line that does
+// not fit, when a line is not the expected one.
+bool ParseHeadA(RecordReader& in, LoadedRecord& record, int groupCount);
+
+}  // namespace tolva
