@@ -16,6 +16,11 @@ inline constexpr int kColorGrey2 = 11;
 inline constexpr int kColorBlack = 15;
 
 int ColorFromWord(const std::string& word);
+// One of the four numbers above.
+inline bool IsDeviceColor(int number) {
+    return number == kColorWhite || number == kColorGrey1 || number == kColorGrey2 ||
+           number == kColorBlack;
+}
 std::string WordFromColor(int number);
 // The colour on the design screen as 0xRRGGBB; any unknown number is black.
 uint32_t ScreenColorFromNumber(int number);

@@ -8,15 +8,6 @@
 
 namespace tolva {
 
-namespace {
-
-bool IsDeviceColor(int color) {
-    return color == kColorWhite || color == kColorGrey1 || color == kColorGrey2 ||
-           color == kColorBlack;
-}
-
-}  // namespace
-
 ctlKOMAButton::ctlKOMAButton()
     : KomaControl(type::Button, controlstyle::Button, "BUTTON", 46, 20) {
     SetControlSubTypeWord("BUTTON_STYLE_1");

@@ -7,15 +7,6 @@
 
 namespace tolva {
 
-namespace {
-
-bool IsDeviceColor(int color) {
-    return color == kColorWhite || color == kColorGrey1 || color == kColorGrey2 ||
-           color == kColorBlack;
-}
-
-}  // namespace
-
 ctlKOMAString::ctlKOMAString() : KomaObject(type::String, "STRING", 53, 10) {}
 
 int ctlKOMAString::KOMAStringStyle() const { return StringStyleWordToNumber(styleWord_); }
