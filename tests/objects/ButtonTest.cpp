@@ -187,11 +187,12 @@ TEST_F(ButtonTest, RowsOfAnotherShapeChangeNothing) {
 
 // --- drawing -------------------------------------------------------------------------------
 
-const DrawElement& Named(const DrawElementList& elements, const std::string& name) {
+// A copy of the element, so that it outlives the list it came from.
+DrawElement Named(const DrawElementList& elements, const std::string& name) {
     auto it = std::find_if(elements.begin(), elements.end(),
                            [&](const DrawElement& e) { return e.name == name; });
-    EXPECT_NE(it, elements.end());
-    return *it;
+    EXPECT_NE(it, elements.end()) << name;
+    return it == elements.end() ? DrawElement{} : *it;
 }
 
 TEST_F(ButtonTest, StyleZeroIsAPlainFilledBoxWithTheTextInsetBy50) {

@@ -76,12 +76,12 @@ protected:
         form = Form(1);
     }
 
-    const DrawElement& Element(const DrawElementList& elements, const std::string& name) {
+    // A copy of the element, so that it outlives the list it came from.
+    DrawElement Element(const DrawElementList& elements, const std::string& name) {
         auto it = std::find_if(elements.begin(), elements.end(),
                                [&](const DrawElement& e) { return e.name == name; });
         EXPECT_NE(it, elements.end()) << name;
-        static DrawElement none;
-        return it == elements.end() ? none : *it;
+        return it == elements.end() ? DrawElement{} : *it;
     }
 
     // A real file of a short path, as the bitmap's rules need, with the size

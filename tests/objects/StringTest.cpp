@@ -17,11 +17,12 @@
 namespace tolva::testing {
 namespace {
 
-const DrawElement& Named(const DrawElementList& elements, const std::string& name) {
+// A copy of the element, so that it outlives the list it came from.
+DrawElement Named(const DrawElementList& elements, const std::string& name) {
     auto it = std::find_if(elements.begin(), elements.end(),
                            [&](const DrawElement& e) { return e.name == name; });
-    EXPECT_NE(it, elements.end());
-    return *it;
+    EXPECT_NE(it, elements.end()) << name;
+    return it == elements.end() ? DrawElement{} : *it;
 }
 
 class StringTest : public ::testing::Test {
