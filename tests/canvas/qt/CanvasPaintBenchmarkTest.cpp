@@ -1,5 +1,6 @@
 // How long one paint of a full screen takes: the frame, the 56 by 56 grid
-// and 500 objects, into an image the size of the main window's canvas.
+// and 500 objects with their texts in the device font, into an image the
+// size of the main window's canvas.
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
@@ -8,6 +9,7 @@
 #include <iostream>
 #include <memory>
 
+#include "canvas/DeviceFont.h"
 #include "canvas/qt/ScreenPainter.h"
 #include "document/ScreenFixture.h"
 #include "objects/ctlKOMAButton.h"
@@ -18,6 +20,9 @@ namespace {
 
 TEST(CanvasPaintBenchmark, FrameGridAndFiveHundredObjects) {
     EnsureStringsLoaded();
+    // The buttons' texts are drawn glyph by glyph in the device font.
+    LoadDeviceFonts(TOLVA_SOURCE_DATA_DIR);
+    ASSERT_NE(FindDeviceFont("TolvaSmall"), nullptr);
     ScriptedHost host;
     RecordingLog log;
     TestScreen screen{host, log};
