@@ -13,8 +13,8 @@
 #include "QuietHost.h"
 #include "document/LogSink.h"
 #include "document/RuntimeFailure.h"
-#include "document/ctlTolvaScreen.h"
-#include "resfile/ResourceFiles.h"
+#include "screen/ctlTolvaScreen.h"
+#include "screen/ScreenFiles.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include "document/RuntimeFailure.h"
 #include "document/StringTable.h"
 #include "document/Words.h"
-#include "document/ctlTolvaScreen.h"
-#include "resfile/ResourceFiles.h"
+#include "screen/ctlTolvaScreen.h"
+#include "screen/ScreenFiles.h"
 
 namespace tolva {
 
@@ -31,7 +31,8 @@ constexpr const char* kHelp =
     "\n"
     "Exit status:\n"
     "  0   the load answered true (and the files were written)\n"
-    "  1   the load answered false\n"
+    "  1   the load answered false (its messages, then the Open command's own box\n"
+    "      \"Could not load resource file\", are on standard error)\n"
     "  2   a run-time failure ended the load silently (\"load ended: \" and why on\n"
     "      standard error), or a file could not be written (\"save failed: \")\n"
     "  64  a wrong command line\n";
@@ -90,8 +91,14 @@ int RunResCommand(const std::vector<std::string>& args, std::ostream& out, std::
         err << "load ended: " << failure.what() << '\n';
         return kResLoadEnded;
     }
+    if (!loaded) {
+        // Open's own box, after whatever the load said; a run-time failure
+        // above shows none, as Open's handler shows none.
+        host.MessageBox(kCouldNotLoadResourceFile, "", MessageButtons::OK);
+        screen.StopLoading();
+        return kResNotLoaded;
+    }
     screen.StopLoading();
-    if (!loaded) return kResNotLoaded;
     if (check) return kResLoaded;
 
     // As Save does: the resource text, then the header with the same IDs.

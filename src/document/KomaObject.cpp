@@ -77,7 +77,12 @@ void KomaObject::PCTwipsToTolvaPixels(const std::string& text) {
     PCTwipsToTolvaPixels(ToReal(text));
 }
 
-void KomaObject::KOMAName(const std::string& name) { name_ = name; }
+void KomaObject::KOMAName(const std::string& name) {
+    if (name == name_) return;
+    const std::string oldName = name_;
+    name_ = name;
+    if (owner_) owner_->ObjectRenamed(*this, oldName);
+}
 
 void KomaObject::KOMAObjectID(int id) {
     if (id < 0) {
@@ -320,6 +325,7 @@ bool KomaObject::CopyModelFrom(const KomaObject& other) {
 }
 
 void KomaObject::CopySharedModelFrom(const KomaObject& other) {
+    const std::string oldName = name_;
     linkedToTable_ = other.linkedToTable_;
     resizeOK_ = other.resizeOK_;
     vertResizeOK_ = other.vertResizeOK_;
@@ -334,6 +340,7 @@ void KomaObject::CopySharedModelFrom(const KomaObject& other) {
     width_ = other.width_;
     height_ = other.height_;
     parentForm_ = other.parentForm_;
+    if (owner_ && name_ != oldName) owner_->ObjectRenamed(*this, oldName);
 }
 
 // --- events ----------------------------------------------------------------------------

@@ -38,6 +38,15 @@ bool ParseNumber(std::string_view text, double& out) {
         }
     }
     if (!anyDigit || i != end) return false;
+    // Whole numbers of a few digits, nearly every number of a record, are
+    // exact in a double and need no strtod.
+    if (digits.size() <= 16 && digits.find('.') == std::string::npos) {
+        long long whole = 0;
+        for (char c : digits)
+            if (c != '-') whole = whole * 10 + (c - '0');
+        out = digits[0] == '-' ? -static_cast<double>(whole) : static_cast<double>(whole);
+        return true;
+    }
     out = std::strtod(digits.c_str(), nullptr);
     return std::isfinite(out);
 }

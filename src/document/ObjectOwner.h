@@ -38,6 +38,12 @@ public:
     virtual void ObjectLineResized(KomaObject& object, int startX, int startY, int endX,
                                    int endY) {}
 
+    // The object's name changed (by its setter or by a copy of another
+    // object's model): a holder that finds objects by name follows it.
+    virtual void ObjectRenamed(KomaObject& object, const std::string& oldName) {}
+    // A form's menus were replaced: their names count as taken names.
+    virtual void ObjectMenusChanged(KomaObject& object) {}
+
     // Stacking order: a stamp larger than every other for the front, smaller
     // than every other for the back.
     virtual long long NextStackStamp(bool toFront) = 0;

@@ -18,7 +18,12 @@ bool WordKey(RecordReader& in, const char* key, ValueGroup& group) {
 }  // namespace
 
 bool ParseControlRecordHead(RecordReader& in, LoadedRecord& record) {
-    if (!ParseHeadA(in, record, 6)) return false;
+    // The loader branches on the style word alone: the type word that head
+    // A reads into the same field must not stand in for a style that a
+    // failing head never reached.
+    const bool headRead = ParseHeadA(in, record, 6);
+    record.kindWord.clear();
+    if (!headRead) return false;
     GroupList& g = record.groups;
     if (!in.Key("(B)CONTROL_STYLE=", record.kindWord)) return false;
     if (!in.Word("~F4")) return false;

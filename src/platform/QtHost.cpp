@@ -123,15 +123,21 @@ std::optional<int> QtHost::PopupMenu(const std::string& title,
 }
 
 void QtHost::SetCursor(CursorShape shape) {
+    // Each cursor belongs to a widget, never to the whole application: the
+    // hourglass to the main window (a file chooser opened under it, a window
+    // of its own, shows the arrow), the cross and the sizing cursors to the
+    // design screen (they show only while the mouse is over it).
+    QWidget* window = cursorWindow_ ? cursorWindow_.data() : parent_.data();
+    QWidget* canvas = cursorCanvas_ ? cursorCanvas_.data() : window;
     Qt::CursorShape qt = Qt::ArrowCursor;
     switch (shape) {
     case CursorShape::Arrow:
-        // The arrow is the desktop's own cursor: drop whatever was set over it.
-        while (QApplication::overrideCursor()) QApplication::restoreOverrideCursor();
+        if (window) window->unsetCursor();
+        if (canvas) canvas->unsetCursor();
         return;
     case CursorShape::Hourglass:
-        qt = Qt::WaitCursor;
-        break;
+        if (window) window->setCursor(Qt::WaitCursor);
+        return;
     case CursorShape::Cross:
         qt = Qt::CrossCursor;
         break;
@@ -148,11 +154,7 @@ void QtHost::SetCursor(CursorShape shape) {
         qt = Qt::SizeHorCursor;
         break;
     }
-    if (QApplication::overrideCursor()) {
-        QApplication::changeOverrideCursor(QCursor(qt));
-    } else {
-        QApplication::setOverrideCursor(QCursor(qt));
-    }
+    if (canvas) canvas->setCursor(qt);
 }
 
 void QtHost::OpenInViewer(const std::string& path) {

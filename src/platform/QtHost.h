@@ -16,6 +16,13 @@ public:
 
     // The window that owns the dialogs; without one, the active window.
     void SetParentWidget(QWidget* parent) { parent_ = parent; }
+    // Where the cursors go: the hourglass onto the window, the cross and
+    // the sizing cursors onto the design screen. Without them, both go onto
+    // the parent widget.
+    void SetCursorWidgets(QWidget* window, QWidget* canvas) {
+        cursorWindow_ = window;
+        cursorCanvas_ = canvas;
+    }
 
     MessageAnswer MessageBox(const std::string& text, const std::string& title,
                              MessageButtons buttons) override;
@@ -46,6 +53,8 @@ private:
     std::optional<std::string> ChooseFile(const FileChooserRequest& request, bool save);
 
     QPointer<QWidget> parent_;
+    QPointer<QWidget> cursorWindow_;
+    QPointer<QWidget> cursorCanvas_;
 };
 
 }  // namespace tolva

@@ -91,8 +91,11 @@ void EmbedLoadedObjects(const LoadedDesign& design, LoadTarget& target, Host& ho
     Embedding(design, target, host).Run();
 }
 
-bool BuildDesign(const LoadedDesign& design, const RecordKinds& kinds, LoadTarget& target,
+bool BuildDesign(LoadedDesign& design, const RecordKinds& kinds, LoadTarget& target,
                  Host& host) {
+    std::size_t records = 0;
+    for (const auto& store : design.stores) records += store.size();
+    target.ExpectObjects(records);
     if (!CreateLoadedObjects(design, kinds, target, host)) return false;
     EmbedLoadedObjects(design, target, host);
     // Stage 6: the IDs of the file only joined its records.

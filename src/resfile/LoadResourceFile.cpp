@@ -1,6 +1,6 @@
-// LoadResourceFile: a resource text read back into the design on the screen.
+// LoadResourceFile: a resource text read back into a design, through the
+// parsers of the kinds and the load stages.
 #include "document/RuntimeFailure.h"
-#include "document/ctlTolvaScreen.h"
 #include "resfile/LoadTarget.h"
 #include "resfile/RecordKinds.h"
 #include "resfile/ResourceFiles.h"
@@ -18,11 +18,11 @@ bool LoadResourceText(ResourceReader& reader, const RecordKinds& kinds, LoadTarg
     return BuildDesign(design, kinds, target, host);
 }
 
-bool LoadResourceFile(ctlTolvaScreen& screen, const std::string& path) {
+bool LoadResourceFile(const std::string& path, const RecordKinds& kinds, LoadTarget& target,
+                      Host& host) {
     ResourceReader reader = ResourceReader::FromFile(path);
     if (!reader.IsOpen()) throw RuntimeFailure("File not found: " + path);
-    ScreenLoadTarget target(screen);
-    return LoadResourceText(reader, StandardRecordKinds(), target, screen.OwnerHost());
+    return LoadResourceText(reader, kinds, target, host);
 }
 
 }  // namespace tolva

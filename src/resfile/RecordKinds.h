@@ -4,8 +4,9 @@
 // "#CONTROL" record: the screen type the record makes, its parser, and the
 // texts of the "Could not load" and "Could not create" messages.
 //
-// A kind's parser is plugged in here when the kind's record code exists.
-// Until then its entry has no parser, and the loader treats its section (or
+// The program's own table is filled in screen/StandardRecordKinds.cpp, where
+// a kind's parser is plugged in once the kind's record code exists. Until
+// then its entry has no parser, and the loader treats its section (or
 // its control style) as an unsupported line: the load ends with "Invalid/
 // unsupported resource object".
 #include <string>
@@ -48,8 +49,5 @@ struct RecordKinds {
     // false when no entry has the word.
     bool SetParser(const std::string& word, RecordParser parser);
 };
-
-// The kinds of the program, with every parser that exists.
-const RecordKinds& StandardRecordKinds();
 
 }  // namespace tolva

@@ -39,11 +39,11 @@ bool ScanResourceText(ResourceReader& reader, Host& host, const RecordKinds& kin
 
 // Stages 2 to 6. False (after its message) when a table, a form, a line or a
 // scheduler line stands in a table's cell.
-bool BuildDesign(const LoadedDesign& design, const RecordKinds& kinds, LoadTarget& target,
+bool BuildDesign(LoadedDesign& design, const RecordKinds& kinds, LoadTarget& target,
                  Host& host);
 
 // Stages 2 to 4, then stage 5; the parts of BuildDesign.
-bool CreateLoadedObjects(const LoadedDesign& design, const RecordKinds& kinds,
+bool CreateLoadedObjects(LoadedDesign& design, const RecordKinds& kinds,
                          LoadTarget& target, Host& host);
 void EmbedLoadedObjects(const LoadedDesign& design, LoadTarget& target, Host& host);
 

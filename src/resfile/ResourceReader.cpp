@@ -1,7 +1,7 @@
 #include "resfile/ResourceReader.h"
 
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 #include "document/RuntimeFailure.h"
 #include "document/TextHelpers.h"
@@ -12,7 +12,21 @@ ResourceReader ResourceReader::FromFile(const std::string& path) {
     ResourceReader reader;
     std::ifstream in(path, std::ios::binary);
     if (!in) return reader;
-    reader.text_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    // The whole file in one piece, into text of its size at once; a stream
+    // that cannot tell its size is read in blocks.
+    in.seekg(0, std::ios::end);
+    const std::streamoff size = in.tellg();
+    in.seekg(0, std::ios::beg);
+    if (size >= 0 && in) {
+        reader.text_.resize(static_cast<std::size_t>(size));
+        in.read(reader.text_.data(), size);
+        reader.text_.resize(static_cast<std::size_t>(in.gcount()));
+    } else {
+        in.clear();
+        std::ostringstream whole;
+        whole << in.rdbuf();
+        reader.text_ = std::move(whole).str();
+    }
     reader.open_ = !in.bad();
     return reader;
 }
@@ -44,11 +58,19 @@ std::string ResourceReader::ReadResourceLine() {
     std::string line = ReadPhysicalLine();
     // A comment begins in the first column; a blank before the slashes makes
     // it an ordinary line, cut below to nothing.
-    while (TrimSpaces(line.substr(0, 2)) == "//") line = ReadPhysicalLine();
-    if (line.size() < 3) return TrimSpaces(line);
-    const std::size_t slashes = line.find("//");
-    if (slashes != std::string::npos) line.erase(slashes);
-    return TrimSpaces(line);
+    while (line.compare(0, 2, "//") == 0) line = ReadPhysicalLine();
+    // The rest of a longer line after "//" is a comment too; then the
+    // blanks at both ends go.
+    std::size_t end = line.size();
+    if (end >= 3) {
+        const std::size_t slashes = line.find("//");
+        if (slashes != std::string::npos) end = slashes;
+    }
+    std::size_t begin = 0;
+    while (begin < end && line[begin] == ' ') ++begin;
+    while (end > begin && line[end - 1] == ' ') --end;
+    if (begin == 0 && end == line.size()) return line;
+    return line.substr(begin, end - begin);
 }
 
 }  // namespace tolva

@@ -22,7 +22,13 @@ public:
     bool AtEnd() const { return pos_ >= text_.size(); }
     // The number of the line read last, counted from 1; 0 before the first.
     int LineCounter() const { return counter_; }
-    void Close() { open_ = false; }
+    // Ends the reading and gives the text's memory back at once (a large
+    // file's bytes are not kept while the design is built from its records).
+    void Close() {
+        open_ = false;
+        std::string().swap(text_);
+        pos_ = 0;
+    }
 
     // One physical line without its line end; throws RuntimeFailure at the
     // end of the text.

@@ -1,13 +1,13 @@
 // SaveHeaderFile: the C header that gives every object's ID a symbol. It is
 // written right after the resource text, whose save gave out the IDs.
-#include "document/ctlTolvaScreen.h"
+#include "resfile/DesignText.h"
 #include "resfile/Banners.h"
 #include "resfile/ResourceFiles.h"
 #include "resfile/ResourceWriter.h"
 
 namespace tolva {
 
-bool SaveHeaderFile(ctlTolvaScreen& screen, const std::string& path) {
+bool SaveHeaderFile(DesignText& design, const std::string& path) {
     ResourceWriter out(path);
 
     // Lines 1 to 11. The guard word does not follow the file's name, and
@@ -25,7 +25,7 @@ bool SaveHeaderFile(ctlTolvaScreen& screen, const std::string& path) {
     // Line 12: the definitions, or one empty line in their place when there
     // are none.
     LineList definitions;
-    screen.GetHeaderFileText(definitions);
+    design.GetHeaderFileText(definitions);
     if (definitions.empty())
         out.WriteLine("");
     else

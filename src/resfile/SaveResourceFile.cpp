@@ -1,7 +1,8 @@
 // SaveResourceFile: the resource text, section by section. The writer knows
 // only the order; each object gives its own record, and the screen writes
 // the menus from the forms' data. Lines go to the file as they come.
-#include "document/ctlTolvaScreen.h"
+#include "document/ObjectTypes.h"
+#include "resfile/DesignText.h"
 #include "resfile/Banners.h"
 #include "resfile/ResourceFiles.h"
 #include "resfile/ResourceWriter.h"
@@ -10,41 +11,41 @@ namespace tolva {
 
 namespace {
 
-void WriteRecordsOf(ctlTolvaScreen& screen, ResourceWriter& out, int screenType) {
+void WriteRecordsOf(DesignText& design, ResourceWriter& out, int screenType) {
     LineList lines;
-    for (const std::string& name : screen.GetNameList(screenType)) {
+    for (const std::string& name : design.GetNameList(screenType)) {
         // What an object gives goes out as it is; no result is looked at.
-        screen.GetKOMAResourceText(lines, name, screenType);
+        design.GetKOMAResourceText(lines, name, screenType);
         out.WriteLines(lines);
     }
 }
 
 }  // namespace
 
-bool SaveResourceFile(ctlTolvaScreen& screen, const std::string& path) {
+bool SaveResourceFile(DesignText& design, const std::string& path) {
     // 1. The IDs of the file are those of this moment; the header written
     // next shows the same.
-    screen.DistributeObjectIds();
+    design.DistributeObjectIds();
 
     // 2., 3.
     ResourceWriter out(path);
     out.WriteLines(ResourceFileBanner());
 
     // 4. Forms.
-    WriteRecordsOf(screen, out, type::Form);
+    WriteRecordsOf(design, out, type::Form);
 
     // 5. Tables, each followed directly by the records of its cells.
     LineList lines;
     std::vector<LineList> blocks;
-    for (const std::string& name : screen.GetNameList(type::Table)) {
-        screen.GetKOMAResourceText(lines, name, type::Table);
+    for (const std::string& name : design.GetNameList(type::Table)) {
+        design.GetKOMAResourceText(lines, name, type::Table);
         out.WriteLines(lines);
-        screen.GetTableObjects(name, blocks);
+        design.GetTableObjects(name, blocks);
         for (const LineList& block : blocks) out.WriteLines(block);
     }
 
     // 6. Menus.
-    screen.GetMenuResourceText(lines);
+    design.GetMenuResourceText(lines);
     out.WriteLines(lines);
 
     // 7. Every other kind; objects in cells are in no name list.
@@ -53,7 +54,7 @@ bool SaveResourceFile(ctlTolvaScreen& screen, const std::string& path) {
                               type::Textbox,      type::List,         type::Field,
                               type::PopupTrigger, type::Scrollbar,    type::Line,
                               type::SchedulerLine};
-    for (int t : kOrder) WriteRecordsOf(screen, out, t);
+    for (int t : kOrder) WriteRecordsOf(design, out, t);
 
     // 8.
     out.Close();

@@ -18,11 +18,11 @@
 #include "document/ObjectTypes.h"
 #include "document/RuntimeFailure.h"
 #include "document/StringTable.h"
-#include "document/ctlTolvaScreen.h"
+#include "screen/ctlTolvaScreen.h"
 #include "inspector/PropertyArray.h"
 #include "inspector/ValueLists.h"
 #include "inspector/qt/ctlPropertyView.h"
-#include "objects/ctlKOMAForm.h"
+#include "objects/form/ctlKOMAForm.h"
 #include "platform/Cp1252.h"
 #include "shell/FilePaths.h"
 #include "shell/FitText.h"
@@ -470,6 +470,8 @@ void frmMain::cmbForms_Click() {
     screen.SelectObject(type::Form, chosen);
     ToolClick(kPointerTool);
     UpdateObjectsCombo();
+    // The selected object has the focus, and the screen the keyboard.
+    ctlScreen_->setFocus(Qt::OtherFocusReason);
 }
 
 void frmMain::cmbObjects_Click() {
@@ -481,6 +483,7 @@ void frmMain::cmbObjects_Click() {
         const std::string form = ToCp1252(cmbForms_->currentText());
         ChangedObject(form, type::Form);
         screen.SelectObject(type::Form, form);
+        ctlScreen_->setFocus(Qt::OtherFocusReason);
         return;
     }
     // The lookup leaves the type as it was for a name it does not know and
@@ -493,6 +496,8 @@ void frmMain::cmbObjects_Click() {
     }
     if (chosen != screen.SelectedObjectName()) ChangedObject(chosen, objectType);
     screen.SelectObject(objectType, chosen);
+    // The selected object has the focus, and the screen the keyboard.
+    ctlScreen_->setFocus(Qt::OtherFocusReason);
 }
 
 // --- buttons -------------------------------------------------------------------------

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "document/ScreenEvents.h"
+#include "screen/ScreenEvents.h"
 #include "shell/frmLog.h"
 
 class QAction;

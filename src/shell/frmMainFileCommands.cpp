@@ -7,8 +7,8 @@
 #include "document/Numbers.h"
 #include "document/ObjectTypes.h"
 #include "document/RuntimeFailure.h"
-#include "document/ctlTolvaScreen.h"
-#include "resfile/ResourceFiles.h"
+#include "screen/ctlTolvaScreen.h"
+#include "screen/ScreenFiles.h"
 #include "shell/FilePaths.h"
 #include "shell/SettingsKeys.h"
 #include "shell/SortedComboBox.h"
@@ -94,7 +94,7 @@ void frmMain::mnuFileOpen_Click() {
         screen.SelectObject(type::None, "");
         screen.StartLoading();
         if (!LoadResourceFile(screen, *path)) {
-            host_.MessageBox("Could not load resource file", "", MessageButtons::OK);
+            host_.MessageBox(kCouldNotLoadResourceFile, "", MessageButtons::OK);
             screen.StopLoading();
             setEnabled(true);
             ResourceFilePath.clear();
@@ -183,10 +183,12 @@ bool frmMain::QueryClose() {
 void frmMain::WriteSettings() {
     host_.SaveSetting(kSettingsApplication, kSettingsSection, "ShowBitmapWarning",
                       showBitmapWarning_ ? "1" : "0");
+    // The grid as the screen holds it now, not as it was read at start: a
+    // hidden grid keeps the interval it had before.
     host_.SaveSetting(kSettingsApplication, kSettingsSection, "ShowGrid",
-                      gridVisible_ ? "1" : "0");
+                      screen_->GridVisible() ? "1" : "0");
     host_.SaveSetting(kSettingsApplication, kSettingsSection, "GridInterval",
-                      IntToText(gridInterval_));
+                      IntToText(screen_->GridInterval()));
 }
 
 }  // namespace tolva

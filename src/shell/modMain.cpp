@@ -8,9 +8,10 @@
 #include "document/StringTable.h"
 #include "document/Words.h"
 #include "inspector/ValueLists.h"
-#include "objects/FormStyles.h"
-#include "objects/modButton.h"
-#include "objects/modString.h"
+#include "objects/form/FormStyles.h"
+#include "objects/button/modButton.h"
+#include "objects/string/modString.h"
+#include "canvas/qt/CanvasWidget.h"
 #include "platform/QtHost.h"
 #include "shell/FilePaths.h"
 #include "shell/RunGuarded.h"
@@ -93,7 +94,9 @@ int SubMain(int argc, char** argv) {
     RunGuarded([&] { window = StartUp(host); });
     if (!window) return kRunTimeErrorStatus;
     host.SetParentWidget(window.get());
+    host.SetCursorWidgets(window.get(), window->ScreenWidget());
     const int status = app.exec();
+    host.SetCursorWidgets(nullptr, nullptr);
     host.SetParentWidget(nullptr);
     SetGuardHost(nullptr);
     return status;

@@ -3,10 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include "objects/ctlKOMAButton.h"
+#include "objects/button/ctlKOMAButton.h"
 #include "document/KomaObject.h"
 #include "document/ObjectTypes.h"
-#include "objects/ctlKOMAForm.h"
+#include "objects/form/ctlKOMAForm.h"
 
 namespace tolva {
 namespace {

@@ -124,7 +124,9 @@ TEST_F(ResProgram, ABlankLineBetweenRecordsStopsTheLoadWithItsMessage) {
                                   Golden("worked_example_form.txt"));
     WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
     EXPECT_EQ(Run("resave in.txt out.txt"), 1);
-    EXPECT_EQ(err, "Load Error: Invalid/unsupported resource object\n");
+    EXPECT_EQ(err,
+              "Load Error: Invalid/unsupported resource object\n"
+              "Tolva Resource Editor: Could not load resource file\n");
     EXPECT_FALSE(fs::exists(dir / "out.txt"));
 }
 
@@ -132,7 +134,9 @@ TEST_F(ResProgram, AnIdAboveSixteenBitsEndsTheLoadSilently) {
     WriteFile(dir / "in.txt", FormWith("ID=0\r\n", "ID=40000\r\n"));
     EXPECT_EQ(Run("check in.txt"), 2);
     EXPECT_EQ(err.rfind("load ended: ", 0), 0u) << err;
+    // No box: Open's handler of a run-time failure shows none.
     EXPECT_EQ(std::count(err.begin(), err.end(), '\n'), 1);
+    EXPECT_EQ(err.find("Could not load resource file"), std::string::npos);
 }
 
 TEST_F(ResProgram, AFileEndingInACommentEndsTheLoadSilently) {
@@ -152,6 +156,10 @@ TEST_F(ResProgram, ABrokenFormLineIsToldWithItsNumberAndTheFormCannotBeLoaded) {
     // Line 21 of the file: the count takes in the banners' comment lines.
     EXPECT_EQ(err.substr(0, err.find('\n')), "Tolva Resource Editor: Error on line 21:  ~F4");
     EXPECT_NE(err.find("Load Error: Could not load form object\n"), std::string::npos) << err;
+    // The last line is the Open command's own box.
+    const std::string last = "Tolva Resource Editor: Could not load resource file\n";
+    ASSERT_GE(err.size(), last.size());
+    EXPECT_EQ(err.substr(err.size() - last.size()), last);
 }
 
 TEST_F(ResProgram, TwoObjectsOfOneNameAreRenamedAndTheLoadGoesOn) {

@@ -8,8 +8,8 @@
 
 #include "document/ObjectTypes.h"
 #include "document/RuntimeFailure.h"
-#include "objects/ctlKOMAButton.h"
-#include "objects/ctlKOMAString.h"
+#include "objects/button/ctlKOMAButton.h"
+#include "objects/string/ctlKOMAString.h"
 #include "support/RecordingOwner.h"
 #include "support/TestStrings.h"
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "document/ObjectTypes.h"
-#include "objects/FormStyles.h"
+#include "objects/form/FormStyles.h"
 
 namespace tolva {
 namespace {

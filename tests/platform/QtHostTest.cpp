@@ -240,17 +240,51 @@ TEST(QtHost, LanguageIdFollowsTheDefaultLocale) {
     QLocale::setDefault(saved);
 }
 
-TEST(QtHost, CursorShapesAndTheArrow) {
+TEST(QtHost, EachCursorGoesOntoItsWidgetAndNeverOntoTheApplication) {
     QtHost host;
+    QWidget window;
+    auto* canvas = new QWidget(&window);
+    auto* inspector = new QWidget(&window);
+    host.SetCursorWidgets(&window, canvas);
+
+    // The hourglass: the main window, so that a chooser of its own shows
+    // the arrow.
     host.SetCursor(CursorShape::Hourglass);
-    ASSERT_NE(QApplication::overrideCursor(), nullptr);
-    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-    host.SetCursor(CursorShape::Cross);
-    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::CrossCursor);
-    host.SetCursor(CursorShape::SizeWE);
-    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::SizeHorCursor);
-    host.SetCursor(CursorShape::Arrow);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(window.cursor().shape(), Qt::WaitCursor);
+    QWidget chooser;
+    EXPECT_EQ(chooser.cursor().shape(), Qt::ArrowCursor);
+
+    // The cross and the sizing cursors: the design screen alone.
+    host.SetCursor(CursorShape::Cross);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(canvas->cursor().shape(), Qt::CrossCursor);
+    EXPECT_FALSE(inspector->testAttribute(Qt::WA_SetCursor));
+    host.SetCursor(CursorShape::SizeWE);
+    EXPECT_EQ(canvas->cursor().shape(), Qt::SizeHorCursor);
+    host.SetCursor(CursorShape::SizeNWSE);
+    EXPECT_EQ(canvas->cursor().shape(), Qt::SizeFDiagCursor);
+    host.SetCursor(CursorShape::SizeNS);
+    EXPECT_EQ(canvas->cursor().shape(), Qt::SizeVerCursor);
+    host.SetCursor(CursorShape::SizeNESW);
+    EXPECT_EQ(canvas->cursor().shape(), Qt::SizeBDiagCursor);
+
+    // The arrow takes both back.
+    host.SetCursor(CursorShape::Arrow);
+    EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
+    EXPECT_FALSE(canvas->testAttribute(Qt::WA_SetCursor));
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(QtHost, WithoutCursorWidgetsTheParentTakesTheCursors) {
+    QtHost host;
+    QWidget window;
+    host.SetParentWidget(&window);
+    host.SetCursor(CursorShape::Cross);
+    EXPECT_EQ(window.cursor().shape(), Qt::CrossCursor);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    host.SetCursor(CursorShape::Arrow);
+    EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
 }
 
 }  // namespace

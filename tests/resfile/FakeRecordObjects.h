@@ -9,8 +9,8 @@
 
 #include "document/Numbers.h"
 #include "document/ObjectTypes.h"
-#include "objects/ctlKOMAForm.h"
-#include "objects/ctlKOMATable.h"
+#include "objects/form/ctlKOMAForm.h"
+#include "objects/table/ctlKOMATable.h"
 
 namespace tolva::testing {
 

@@ -18,9 +18,11 @@
 #include <vector>
 
 #include "document/Numbers.h"
-#include "document/ctlTolvaScreen.h"
+#include "screen/ctlTolvaScreen.h"
 #include "resfile/LoadTarget.h"
+#include "screen/ScreenLoadTarget.h"
 #include "resfile/RecordKinds.h"
+#include "screen/StandardRecordKinds.h"
 #include "resfile/RecordReader.h"
 #include "resfile/ResourceLoading.h"
 #include "resfile/ResourceReader.h"

@@ -4,7 +4,7 @@
 #include "document/RuntimeFailure.h"
 #include "resfile/LoadFixture.h"
 #include "resfile/ResourceFileFixture.h"
-#include "resfile/ResourceFiles.h"
+#include "screen/ScreenFiles.h"
 
 namespace tolva::testing {
 namespace {

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "document/ScreenFixture.h"
+#include "screen/ScreenFixture.h"
 #include "resfile/FakeRecordObjects.h"
 
 namespace tolva::testing {

@@ -11,7 +11,7 @@
 #include <QToolButton>
 #include <memory>
 
-#include "document/ctlTolvaScreen.h"
+#include "screen/ctlTolvaScreen.h"
 #include "shell/frmMain.h"
 #include "support/ScriptedHost.h"
 #include "support/TestStrings.h"

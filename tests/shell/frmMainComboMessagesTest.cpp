@@ -1,7 +1,7 @@
 // The boxes of the objects list's refresh, and a choice in it of a name that
 // the screen does not know.
 #include "document/ObjectTypes.h"
-#include "objects/ctlKOMAForm.h"
+#include "objects/form/ctlKOMAForm.h"
 #include "shell/MainWindowFixture.h"
 
 namespace tolva::testing {

@@ -7,7 +7,7 @@
 #include <QPushButton>
 
 #include "document/ObjectTypes.h"
-#include "objects/ctlKOMAForm.h"
+#include "objects/form/ctlKOMAForm.h"
 #include "resfile/ResourceFiles.h"
 #include "shell/FilePaths.h"
 #include "shell/MainWindowFixture.h"
@@ -331,6 +331,34 @@ TEST_F(FileCommands, ASavedDesignClosesWithoutAQuestionAndWritesTheSettings) {
     EXPECT_EQ(host.settings["Settings/ShowBitmapWarning"], "0");
     EXPECT_EQ(host.settings["Settings/ShowGrid"], "1");
     EXPECT_EQ(host.settings["Settings/GridInterval"], "55");
+}
+
+TEST_F(FileCommands, TheGridIsWrittenAsTheScreenHoldsIt) {
+    // Read at start: the grid hidden with an interval of 30. Hiding keeps the
+    // screen's own interval, so that is what the close writes.
+    host.settings["Settings/ShowGrid"] = "0";
+    host.settings["Settings/GridInterval"] = "30";
+    Open();
+    ASSERT_FALSE(Screen().GridVisible());
+    ASSERT_EQ(Screen().GridInterval(), 55);
+    EXPECT_TRUE(window->close());
+    EXPECT_EQ(host.settings["Settings/ShowGrid"], "0");
+    EXPECT_EQ(host.settings["Settings/GridInterval"], "55");
+}
+
+TEST_F(FileCommands, AGridChangedOnTheScreenIsWrittenAtTheClose) {
+    Screen().SetGrid(20, true);
+    EXPECT_TRUE(window->close());
+    EXPECT_EQ(host.settings["Settings/ShowGrid"], "1");
+    EXPECT_EQ(host.settings["Settings/GridInterval"], "20");
+}
+
+TEST_F(FileCommands, AGridHiddenOnTheScreenIsWrittenHiddenWithItsInterval) {
+    Screen().SetGrid(20, true);
+    Screen().SetGrid(20, false);
+    EXPECT_TRUE(window->close());
+    EXPECT_EQ(host.settings["Settings/ShowGrid"], "0");
+    EXPECT_EQ(host.settings["Settings/GridInterval"], "20");
 }
 
 TEST_F(FileCommands, CloseWithChangesAsksAndNoClosesWithoutSaving) {

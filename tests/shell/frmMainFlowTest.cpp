@@ -4,7 +4,7 @@
 
 #include "document/ObjectTypes.h"
 #include "document/StringTable.h"
-#include "objects/ctlKOMAForm.h"
+#include "objects/form/ctlKOMAForm.h"
 #include "shell/MainWindowFixture.h"
 
 namespace tolva::testing {

@@ -4,12 +4,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QWheelEvent>
 #include <QTest>
 
 #include "canvas/qt/CanvasWidget.h"
 #include "document/ObjectTypes.h"
 #include "inspector/qt/ctlPropertyView.h"
-#include "objects/ctlKOMAForm.h"
+#include "objects/form/ctlKOMAForm.h"
 #include "shell/MainWindowFixture.h"
 #include "shell/modMain.h"
 
@@ -178,6 +180,94 @@ TEST_F(InspectorFlow, ChangingTheStyleChangesTheForm) {
     EXPECT_EQ(Choice(7)->currentText(), "BITMAP_DIALOG");
     EXPECT_FALSE(window->DesignSaved());
     EXPECT_TRUE(host.messages.empty());
+}
+
+// --- the keyboard after a commit -----------------------------------------------------------
+
+TEST_F(InspectorFlow, AfterEnterTheKeyboardStaysOnTheCommittedRow) {
+    DrawForm();
+    ctlKOMAForm* second = DrawForm();
+    Enter(8, "Main Menu");
+    ASSERT_EQ(second->KOMAFormTitle(), "Main Menu");
+    EXPECT_EQ(QApplication::focusWidget(), Text(8));
+    // An arrow key goes to the row, not to the forms list.
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_EQ(Screen().CurrentDesignForm(), "FORM_2");
+    EXPECT_EQ(Forms()->currentText(), "FORM_2");
+}
+
+TEST_F(InspectorFlow, AfterARefusedValueTheKeyboardStaysOnTheRow) {
+    DrawForm();
+    Enter(2, "200");
+    ASSERT_EQ(host.messages.size(), 1u);
+    EXPECT_EQ(QApplication::focusWidget(), Text(2));
+}
+
+TEST_F(InspectorFlow, TabCommitsAndTheKeyboardGoesOnToTheNextRow) {
+    ctlKOMAForm* form = DrawForm();
+    QLineEdit* box = Text(8);
+    box->setFocus(Qt::MouseFocusReason);
+    box->selectAll();
+    QTest::keyClicks(box, "Tabbed");
+    QTest::keyClick(box, Qt::Key_Tab);
+    EXPECT_EQ(form->KOMAFormTitle(), "Tabbed");
+    QWidget* now = QApplication::focusWidget();
+    ASSERT_NE(now, nullptr);
+    EXPECT_TRUE(View()->isAncestorOf(now)) << now->objectName().toStdString();
+    EXPECT_EQ(now->property("index").toInt(), 9);
+}
+
+TEST_F(InspectorFlow, AClickIntoAnotherRowCommitsAndLandsThere) {
+    ctlKOMAForm* form = DrawForm();
+    QLineEdit* box = Text(8);
+    box->setFocus(Qt::MouseFocusReason);
+    box->selectAll();
+    QTest::keyClicks(box, "Clicked");
+    QTest::mouseClick(Text(2), Qt::LeftButton);
+    EXPECT_EQ(form->KOMAFormTitle(), "Clicked");
+    EXPECT_EQ(QApplication::focusWidget(), Text(2));
+}
+
+TEST_F(InspectorFlow, AfterAChoiceTheKeyboardStaysOnTheChoiceRow) {
+    ctlKOMAForm* form = DrawForm();
+    Choice(7)->setFocus(Qt::MouseFocusReason);
+    ChooseRow(7, "BITMAP_DIALOG");
+    ASSERT_EQ(form->KOMAFormStyleWord(), "BITMAP_DIALOG");
+    EXPECT_EQ(QApplication::focusWidget(), Choice(7));
+}
+
+TEST_F(InspectorFlow, TheWheelOverAChoiceRowWithoutTheKeyboardScrollsTheInspector) {
+    // A short inspector that shows the style row (the seventh) but not all
+    // eleven rows of the form, so that the scroll bar is needed.
+    View()->resize(View()->width(), 210);
+    ctlKOMAForm* form = DrawForm();
+    auto* bar = View()->findChild<QScrollBar*>("VScroll1");
+    ASSERT_TRUE(bar->isVisible());
+    const int before = bar->value();
+    QComboBox* combo = Choice(7);
+    ASSERT_TRUE(combo->isVisible());
+    ASSERT_FALSE(combo->hasFocus());
+    const QString shown = combo->currentText();
+    const QPoint at = combo->rect().center();
+    QWheelEvent down(QPointF(at), QPointF(combo->mapToGlobal(at)), QPoint(), QPoint(0, -120),
+                     Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(combo, &down);
+    EXPECT_EQ(combo->currentText(), shown);
+    EXPECT_EQ(form->KOMAFormStyleWord(), "NORMAL");
+    EXPECT_GT(bar->value(), before);
+    EXPECT_FALSE(combo->hasFocus());
+}
+
+TEST_F(InspectorFlow, TheWheelOverTheFocusedChoiceRowChangesIt) {
+    DrawForm();
+    QComboBox* combo = Choice(7);
+    combo->setFocus(Qt::MouseFocusReason);
+    const QString shown = combo->currentText();
+    const QPoint at = combo->rect().center();
+    QWheelEvent down(QPointF(at), QPointF(combo->mapToGlobal(at)), QPoint(), QPoint(0, -120),
+                     Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(combo, &down);
+    EXPECT_NE(combo->currentText(), shown);
 }
 
 TEST_F(InspectorFlow, TheTitleRowSetsTheTitle) {

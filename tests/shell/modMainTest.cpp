@@ -9,7 +9,7 @@
 #include "document/PropertyLabels.h"
 #include "document/StringTable.h"
 #include "inspector/ValueLists.h"
-#include "objects/FormStyles.h"
+#include "objects/form/FormStyles.h"
 #include "shell/FilePaths.h"
 #include "shell/frmMain.h"
 #include "shell/modMain.h"

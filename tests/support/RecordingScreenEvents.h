@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "document/ScreenEvents.h"
+#include "screen/ScreenEvents.h"
 
 namespace tolva::testing {
 

@@ -4,7 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "document/ctlTolvaScreen.h"
+#include "screen/ctlTolvaScreen.h"
 #include "shell/RunGuarded.h"
 
 namespace tolva {
@@ -121,11 +121,21 @@ void CanvasWidget::mousePressEvent(QMouseEvent* event) {
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
     const QPointF at = ToUnits(event->position());
     const int shift = ShiftCode(event->modifiers());
+    if (captured_ && !(event->buttons() & captureButton_)) {
+        // The mouse is back without the button of the press: its release
+        // was lost (a message box took it). The element that took the press
+        // gets it here, so that nothing goes on dragging.
+        const CanvasHit target = capture_;
+        const int lost = ButtonCode(captureButton_);
+        captured_ = false;
+        captureButton_ = Qt::NoButton;
+        capture_ = CanvasHit{};
+        RunGuarded([&] { Deliver(target, Phase::Up, lost, shift, at); });
+        update();
+    }
     RunGuarded([&] {
         if (captured_) {
-            int button = ButtonCode(event->buttons());
-            if (button == 0) button = ButtonCode(captureButton_);
-            Deliver(capture_, Phase::Move, button, shift, at);
+            Deliver(capture_, Phase::Move, ButtonCode(event->buttons()), shift, at);
         } else {
             Deliver(screen_.HitTest(at.x(), at.y()), Phase::Move, ButtonCode(event->buttons()),
                     shift, at);
@@ -152,15 +162,16 @@ void CanvasWidget::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
         return;
     }
-    // The delete key goes to the object that has the focus.
+    // The delete key goes to the selected object, and only to it: an
+    // object that kept the focus after the selection was cleared is left
+    // alone. The key reaches the screen only while it has the keyboard
+    // focus.
     const int shift = ShiftCode(event->modifiers());
     RunGuarded([&] {
-        for (KomaObject* object : screen_.VisibleObjectsInStackingOrder()) {
-            if (object->HasFocus()) {
-                object->KeyDown(46, shift);
-                break;
-            }
-        }
+        KomaObject* selected = screen_.SelectedObjectRef();
+        if (selected && screen_.SelectedObjectType() != type::None &&
+            screen_.HoldsObject(selected) && selected->Visible())
+            selected->KeyDown(46, shift);
     });
     update();
 }

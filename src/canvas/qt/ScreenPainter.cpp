@@ -12,7 +12,7 @@
 #include "canvas/DeviceArea.h"
 #include "canvas/RubberBand.h"
 #include "canvas/SelectionNodes.h"
-#include "document/ctlTolvaScreen.h"
+#include "screen/ctlTolvaScreen.h"
 #include "platform/Cp1252.h"
 
 namespace tolva {

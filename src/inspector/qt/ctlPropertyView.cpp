@@ -1,6 +1,7 @@
 #include "inspector/qt/ctlPropertyView.h"
 
 #include <QComboBox>
+#include <QApplication>
 #include <QFocusEvent>
 #include <QFrame>
 #include <QKeyEvent>
@@ -88,6 +89,10 @@ ctlPropertyView::Row ctlPropertyView::MakeRow(int index) {
 
     row.cmbOnlyValue = new QComboBox(this);
     row.cmbOnlyValue->setObjectName("cmbOnlyValue");
+    // The wheel gives no focus: over a row that has none it scrolls the
+    // view (see eventFilter).
+    row.cmbOnlyValue->setFocusPolicy(Qt::StrongFocus);
+    row.cmbOnlyValue->installEventFilter(this);
     connect(row.cmbOnlyValue, &QComboBox::activated, this, [this, index](int) {
         ChooseEntry(index);
     });
@@ -328,17 +333,23 @@ void ctlPropertyView::DragDivider(double mouseX) {
 
 // --- commits ----------------------------------------------------------------------------
 
-void ctlPropertyView::RaisePropertyChanged() {
+void ctlPropertyView::RaisePropertyChanged(QWidget* focusAfter) {
     // A copy: the receiver may refresh the view, which empties its own array.
     const PropertyArray values = propertyValues_;
+    const QPointer<QWidget> keep = focusAfter;
     emit PropertyChanged(values);
+    // The refresh hid the rows, and the keyboard went on to whatever came
+    // next in the window. It comes back to the row that was committed (or
+    // the one Tab or a click was moving to), when that row still shows.
+    if (keep && isAncestorOf(keep) && keep->isVisible() && keep->isEnabled())
+        keep->setFocus(Qt::OtherFocusReason);
 }
 
-void ctlPropertyView::CommitText(int row) {
+void ctlPropertyView::CommitText(int row, QWidget* focusAfter) {
     if (row < 1 || row > numProperties_) return;
     currentRow_ = row;
     const std::string text = ToCp1252(rows_[static_cast<size_t>(row)].txtAnyValue->text());
-    if (CommitRowText(propertyValues_, row, text)) RaisePropertyChanged();
+    if (CommitRowText(propertyValues_, row, text)) RaisePropertyChanged(focusAfter);
 }
 
 void ctlPropertyView::EnterText(int row) {
@@ -346,7 +357,7 @@ void ctlPropertyView::EnterText(int row) {
     currentRow_ = row;
     QLineEdit* box = rows_[static_cast<size_t>(row)].txtAnyValue;
     if (CommitRowText(propertyValues_, row, ToCp1252(box->text()))) {
-        RaisePropertyChanged();
+        RaisePropertyChanged(box);
     } else {
         box->setText(FromCp1252(RowValueText(propertyValues_, row)));
     }
@@ -361,14 +372,16 @@ void ctlPropertyView::EscapeText(int row) {
 void ctlPropertyView::ChooseEntry(int row) {
     if (row < 1 || row > numProperties_) return;
     currentRow_ = row;
-    const std::string word = ToCp1252(rows_[static_cast<size_t>(row)].cmbOnlyValue->currentText());
-    if (CommitRowText(propertyValues_, row, word)) RaisePropertyChanged();
+    QComboBox* combo = rows_[static_cast<size_t>(row)].cmbOnlyValue;
+    const std::string word = ToCp1252(combo->currentText());
+    if (CommitRowText(propertyValues_, row, word)) RaisePropertyChanged(combo);
 }
 
 void ctlPropertyView::PressButton(int row) {
     if (row < 1 || row > numProperties_) return;
     currentRow_ = row;
-    if (PressButtonRow(propertyValues_, row)) RaisePropertyChanged();
+    if (PressButtonRow(propertyValues_, row))
+        RaisePropertyChanged(rows_[static_cast<size_t>(row)].cmdButton);
 }
 
 // --- events of the editors and the divider ---------------------------------------------
@@ -392,6 +405,16 @@ bool ctlPropertyView::eventFilter(QObject* watched, QEvent* event) {
         }
     }
 
+    if (event->type() == QEvent::Wheel && qobject_cast<QComboBox*>(watched) &&
+        watched->objectName() == "cmbOnlyValue") {
+        // The wheel over a choice row scrolls the inspector; it changes the
+        // row only while the row has the keyboard.
+        if (static_cast<QWidget*>(watched)->hasFocus()) return QWidget::eventFilter(watched, event);
+        if (VScroll1_->isVisible() && VScroll1_->isEnabled())
+            QApplication::sendEvent(VScroll1_, event);
+        return true;
+    }
+
     if (qobject_cast<QLineEdit*>(watched) && watched->objectName() == "txtAnyValue") {
         const int row = RowOf(watched);
         switch (event->type()) {
@@ -413,11 +436,11 @@ bool ctlPropertyView::eventFilter(QObject* watched, QEvent* event) {
                 const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
                 if (numProperties_ > 0 && reason != Qt::ActiveWindowFocusReason &&
                     reason != Qt::PopupFocusReason)
-                    CommitText(row);
+                    CommitText(row, QApplication::focusWidget());
                 break;
             }
             case QEvent::MouseButtonRelease:
-                CommitText(row);
+                CommitText(row, static_cast<QWidget*>(watched));
                 break;
             default:
                 break;

@@ -7,6 +7,7 @@
 //
 // Measures are kept in screen units (15 to a desktop pixel) and turned into
 // pixels only when a control is placed.
+#include <QPointer>
 #include <QWidget>
 #include <string>
 #include <vector>
@@ -97,12 +98,15 @@ private:
     void SetChoiceText(QComboBox* combo, const std::string& word);
 
     // The commit rules.
-    void CommitText(int row);
+    // focusAfter: the widget that is to have the keyboard once the refresh
+    // that answers the commit is done (the box itself, or the editor that
+    // Tab or a click is moving to); nullptr leaves the focus alone.
+    void CommitText(int row, QWidget* focusAfter);
     void EnterText(int row);
     void EscapeText(int row);
     void ChooseEntry(int row);
     void PressButton(int row);
-    void RaisePropertyChanged();
+    void RaisePropertyChanged(QWidget* focusAfter);
 
     void DragDivider(double mouseX);
 

@@ -11,9 +11,9 @@
 
 #include "canvas/DeviceFont.h"
 #include "canvas/qt/ScreenPainter.h"
-#include "document/ScreenFixture.h"
-#include "objects/ctlKOMAButton.h"
-#include "objects/ctlKOMAForm.h"
+#include "screen/ScreenFixture.h"
+#include "objects/button/ctlKOMAButton.h"
+#include "objects/form/ctlKOMAForm.h"
 
 namespace tolva::testing {
 namespace {

@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "canvas/qt/CanvasWidget.h"
-#include "objects/ctlKOMAForm.h"
+#include "objects/form/ctlKOMAForm.h"
 #include "shell/MainWindowFixture.h"
 
 namespace tolva::testing {
@@ -175,6 +175,105 @@ TEST_F(CanvasWidgetTest, DeleteKeyRemovesTheSelectedObject) {
     QTest::keyClick(Canvas(), Qt::Key_Delete);
     EXPECT_EQ(Screen().NumButtons(), 0);
     EXPECT_EQ(Screen().NumForms(), 1);
+}
+
+// --- the keyboard and the lost release -------------------------------------------------------
+
+class CanvasKeysTest : public CanvasWidgetTest {
+protected:
+    void SetUp() override {
+        CanvasWidgetTest::SetUp();
+        window->activateWindow();
+        QApplication::setActiveWindow(window.get());
+    }
+    // The key goes where the keyboard focus is, as a person's key does.
+    void PressDeleteKey() {
+        QWidget* target = QApplication::focusWidget() ? QApplication::focusWidget() : window.get();
+        QTest::keyClick(target, Qt::Key_Delete);
+    }
+    // A move of the mouse with no button held, as after a lost release.
+    void MoveWithoutButton(QPoint at) {
+        QMouseEvent move(QEvent::MouseMove, QPointF(at), Canvas()->mapToGlobal(QPointF(at)),
+                         Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(Canvas(), &move);
+    }
+};
+
+TEST_F(CanvasKeysTest, DeleteWithNothingSelectedDeletesNothing) {
+    DrawFormAndButton();
+    // Click the button, then the bare margin: nothing is selected and the
+    // inspector shows no object.
+    QTest::mouseClick(Canvas(), Qt::LeftButton, {}, QPoint(60, 50));
+    ASSERT_EQ(Screen().SelectedObjectName(), "BUTTON_1");
+    QTest::mouseClick(Canvas(), Qt::LeftButton, {}, QPoint(5, 5));
+    ASSERT_EQ(Screen().SelectedObjectType(), type::None);
+    ASSERT_EQ(QApplication::focusWidget(), Canvas());
+    PressDeleteKey();
+    EXPECT_EQ(Screen().NumButtons(), 1);
+    EXPECT_EQ(Screen().NumForms(), 1);
+}
+
+TEST_F(CanvasKeysTest, AnObjectChosenInTheObjectsComboIsDeletedByTheKey) {
+    DrawFormAndButton();
+    // The form selected by a click, then the button chosen in the combo.
+    QTest::mouseClick(Canvas(), Qt::LeftButton, {}, QPoint(300, 300));
+    ASSERT_EQ(Screen().SelectedObjectType(), type::Form);
+    Objects()->setFocus();
+    Choose(Objects(), "BUTTON_1");
+    ASSERT_EQ(Screen().SelectedObjectName(), "BUTTON_1");
+    // Choosing gave the screen the keyboard.
+    EXPECT_EQ(QApplication::focusWidget(), Canvas());
+    PressDeleteKey();
+    EXPECT_EQ(Screen().NumButtons(), 0);
+    EXPECT_EQ(Screen().NumForms(), 1);
+}
+
+TEST_F(CanvasKeysTest, TheKeyElsewhereDeletesNothing) {
+    DrawFormAndButton();
+    QTest::mouseClick(Canvas(), Qt::LeftButton, {}, QPoint(60, 50));
+    ASSERT_EQ(Screen().SelectedObjectName(), "BUTTON_1");
+    Forms()->setFocus();
+    QTest::keyClick(Forms(), Qt::Key_Delete);
+    EXPECT_EQ(Screen().NumButtons(), 1);
+}
+
+TEST_F(CanvasKeysTest, AMoveWithNoButtonAfterALostReleaseDoesNotDrag) {
+    DrawFormAndButton();
+    const int left = Button()->KOMABoundsX();
+    const int top = Button()->KOMABoundsY();
+    // The press lands on the button; its release never comes (a message box
+    // took it). The mouse comes back with no button held.
+    Press(QPoint(60, 50));
+    MoveWithoutButton(QPoint(200, 200));
+    MoveWithoutButton(QPoint(250, 260));
+    EXPECT_EQ(Button()->KOMABoundsX(), left);
+    EXPECT_EQ(Button()->KOMABoundsY(), top);
+    EXPECT_EQ(Screen().ScreenMode(), ctlTolvaScreen::ModeIdle);
+    // The lost release ended as a plain click: the button is selected.
+    EXPECT_EQ(Screen().SelectedObjectName(), "BUTTON_1");
+    // The next press and drag work as ever.
+    Drag(QPoint(60, 50), QPoint(120, 50));
+    EXPECT_GT(Button()->KOMABoundsX(), left);
+}
+
+TEST_F(CanvasKeysTest, APressWhoseReleaseABoxTookEndsAtTheFirstMoveWithoutTheButton) {
+    DrawFormAndButton();
+    ClickTool(3);
+    Drag({40, 200}, {100, 230});
+    ASSERT_EQ(Screen().NumButtons(), 2);
+    KomaObject* second = Screen().ObjectAt(type::Button, 2);
+    const int left = second->KOMABoundsX();
+    const int top = second->KOMABoundsY();
+    // A value refused in the inspector shows its box as the press on the
+    // second button commits the row; the box takes the release, and the
+    // mouse moves on with no button.
+    Press(QPoint(60, 210));
+    MoveWithoutButton(QPoint(300, 300));
+    EXPECT_EQ(second->KOMABoundsX(), left);
+    EXPECT_EQ(second->KOMABoundsY(), top);
+    MoveWithoutButton(QPoint(320, 340));
+    EXPECT_EQ(second->KOMABoundsX(), left);
+    EXPECT_EQ(second->KOMABoundsY(), top);
 }
 
 TEST_F(CanvasWidgetTest, PaintingTheWindowShowsTheSelectedButtonsNodes) {

@@ -1,9 +1,0 @@
-#include "objects/ctlKOMAList.h"
-
-#include "document/ObjectTypes.h"
-
-namespace tolva {
-
-ctlKOMAList::ctlKOMAList() : KomaObject(type::List, "LIST", 24, 12) {}
-
-}  // namespace tolva

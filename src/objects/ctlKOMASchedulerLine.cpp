@@ -1,9 +1,0 @@
-#include "objects/ctlKOMASchedulerLine.h"
-
-#include "document/ObjectTypes.h"
-
-namespace tolva {
-
-ctlKOMASchedulerLine::ctlKOMASchedulerLine() : KomaObject(type::SchedulerLine, "SCHLINE", 40, 40) {}
-
-}  // namespace tolva

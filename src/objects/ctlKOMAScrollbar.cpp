@@ -1,9 +1,0 @@
-#include "objects/ctlKOMAScrollbar.h"
-
-#include "document/ObjectTypes.h"
-
-namespace tolva {
-
-ctlKOMAScrollbar::ctlKOMAScrollbar() : KomaObject(type::Scrollbar, "SCROLLBAR", 24, 12) {}
-
-}  // namespace tolva

@@ -1,0 +1,61 @@
+// The table of record kinds of this program: every section word and control
+// style with its texts, and the parser of each kind that can be read. A new
+// kind plugs its parser in here.
+#include "screen/StandardRecordKinds.h"
+
+#include "document/ObjectTypes.h"
+#include "objects/ControlRecord.h"
+#include "objects/button/modButton.h"
+#include "objects/form/FormRecord.h"
+#include "objects/string/modString.h"
+
+namespace tolva {
+
+namespace {
+
+RecordKinds MakeStandardKinds() {
+    RecordKinds kinds;
+    // The parsers are plugged in kind by kind; nullptr: not readable yet.
+    kinds.sections = {
+        {"#FORM", type::Form, ParseFormRecord, "Could not load form object", "Could not create form"},
+        {"#BITMAP", type::Bitmap, nullptr, "Could not load bitmap object",
+         "Could not create bitmap"},
+        {"#FIELD", type::Field, nullptr, "Could not load field object", "Could not create field"},
+        {"#LINE", type::Line, nullptr, "Could not load line object", "Could not create line"},
+        {"#LIST", type::List, nullptr, "Could not load list object", "Could not create list"},
+        {"#MENU", type::Menu, nullptr, "Could not load menu object", "Could not create menu"},
+        {"#SCHLINE", type::SchedulerLine, nullptr, "Could not load SchedulerLine object",
+         "Could not create scheduler line"},
+        {"#SCROLLBAR", type::Scrollbar, nullptr, "Could not load scrollbar object",
+         "Could not create scrollbar"},
+        {"#STRING", type::String, ParseStringRecord, "Could not load string object",
+         "Could not create string"},
+        {"#TABLE", type::Table, nullptr, "Could not load table object", "Could not create table"},
+        {"#TEXTBOX", type::Textbox, nullptr, "Could not load textbox object",
+         "Could not create textbox"},
+    };
+    kinds.controlHead = {"#CONTROL", type::None, ParseControlRecordHead,
+                         "Could not load control object", ""};
+    kinds.controlStyles = {
+        {"BUTTON", type::Button, ParseButtonRecordTail, "Could not load button object",
+         "Could not create button"},
+        {"POPUP_TRIGGER", type::PopupTrigger, nullptr, "Could not load popuptrigger object",
+         "Could not create popuptrigger"},
+        {"PUSH_BUTTON", type::PushButton, nullptr, "Could not load pushbutton object",
+         "Could not create pushbutton"},
+        {"REPEAT_BUTTON", type::RepeatButton, nullptr, "Could not load repeatbutton object",
+         "Could not create repeatbutton"},
+        {"CHECKBOX", type::Checkbox, nullptr, "Could not load checkbox object",
+         "Could not create checkbox"},
+    };
+    return kinds;
+}
+
+}  // namespace
+
+const RecordKinds& StandardRecordKinds() {
+    static const RecordKinds kinds = MakeStandardKinds();
+    return kinds;
+}
+
+}  // namespace tolva
