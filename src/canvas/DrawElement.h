@@ -70,8 +70,10 @@ struct DrawElement {
     // glyph by glyph on the device's pixels. 0 for any other text.
     double devicePixel = 0;
 
-    // Image: a picture file, stretched to the box.
+    // Image: a picture file, stretched to the box, in the greys the device
+    // shows at the picture's depth in bits (2 or 4; 0: the file's colours).
     std::string imagePath;
+    int imageDepth = 0;
 
     // Line: from x1, y1 to x2, y2, relative to the object.
     double x1 = 0, y1 = 0, x2 = 0, y2 = 0;

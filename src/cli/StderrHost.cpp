@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "cli/BmpSize.h"
+#include "canvas/BmpPicture.h"
 
 namespace tolva {
 
@@ -21,7 +21,9 @@ MessageAnswer StderrHost::MessageBox(const std::string& text, const std::string&
 }
 
 std::optional<PictureSize> StderrHost::LoadPicture(const std::string& path) {
-    return BmpSizeOfFile(path);
+    const auto picture = ReadBmpFile(path);
+    if (!picture) return std::nullopt;
+    return PictureSize{picture->width, picture->height};
 }
 
 bool StderrHost::FileExists(const std::string& path) {

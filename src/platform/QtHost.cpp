@@ -6,12 +6,12 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QImage>
 #include <QMenu>
 #include <QMessageBox>
 #include <QSettings>
 #include <QUrl>
 
+#include "canvas/BmpPicture.h"
 #include "platform/Cp1252.h"
 #include "platform/FileFilter.h"
 
@@ -97,9 +97,12 @@ void QtHost::SaveSetting(const std::string& application, const std::string& sect
 }
 
 std::optional<PictureSize> QtHost::LoadPicture(const std::string& path) {
-    QImage image;
-    if (path.empty() || !image.load(FromLocalPath(path))) return std::nullopt;
-    return PictureSize{image.width(), image.height()};
+    // The program's own reader, as the command-line companion uses it, so
+    // that both agree on which pictures load and on their sizes.
+    if (path.empty()) return std::nullopt;
+    const auto picture = ReadBmpFile(FromLocalPath(path).toLocal8Bit().toStdString());
+    if (!picture) return std::nullopt;
+    return PictureSize{picture->width, picture->height};
 }
 
 std::optional<int> QtHost::PopupMenu(const std::string& title,

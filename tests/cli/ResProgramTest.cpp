@@ -10,7 +10,7 @@
 #include <iterator>
 #include <sstream>
 
-#include "BmpBytes.h"
+#include "support/BmpBytes.h"
 #include "cli/ResCommand.h"
 
 namespace tolva::testing {

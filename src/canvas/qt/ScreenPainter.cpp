@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "canvas/BmpPicture.h"
 #include "canvas/DeviceArea.h"
 #include "canvas/RubberBand.h"
 #include "canvas/SelectionNodes.h"
@@ -180,8 +181,13 @@ void ScreenPainter::PaintElement(QPainter& painter, const DrawElement& element, 
             break;
         }
         case DrawElementKind::Image: {
-            const QImage& picture = Picture(element.imagePath);
-            if (!picture.isNull()) painter.drawImage(box, picture);
+            const QImage& picture = Picture(element.imagePath, element.imageDepth);
+            if (!picture.isNull()) {
+                // No smoothing: every pixel of the picture stays a crisp
+                // square of the device's pixel, at any zoom.
+                painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+                painter.drawImage(box, picture);
+            }
             break;
         }
         case DrawElementKind::Line: {
@@ -242,11 +248,20 @@ bool ScreenPainter::PaintDeviceText(QPainter& painter, const DrawElement& elemen
     return true;
 }
 
-const QImage& ScreenPainter::Picture(const std::string& path) {
-    const QString key = FromCp1252(path);
+const QImage& ScreenPainter::Picture(const std::string& path, int depth) {
+    const QString key = FromCp1252(path) + QLatin1Char('|') + QString::number(depth);
     auto it = pictures_.find(key);
-    if (it == pictures_.end()) it = pictures_.insert(key, QImage(key));
-    return it.value();
+    if (it != pictures_.end()) return it.value();
+    QImage image;
+    if (auto picture = ReadBmpFile(FromLocalPath(path).toLocal8Bit().toStdString())) {
+        if (depth != 0) *picture = ToDeviceGreys(*picture, depth);
+        image = QImage(picture->width, picture->height, QImage::Format_RGB32);
+        for (int y = 0; y < picture->height; ++y) {
+            auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+            for (int x = 0; x < picture->width; ++x) line[x] = 0xFF000000u | picture->At(x, y);
+        }
+    }
+    return pictures_.insert(key, image).value();
 }
 
 // --- band and nodes ---------------------------------------------------------------------------

@@ -48,7 +48,10 @@ private:
     void PaintGrid(QPainter& painter, const ctlTolvaScreen& screen);
     void PaintBand(QPainter& painter, const ctlTolvaScreen& screen);
     void PaintNodes(QPainter& painter, const ctlTolvaScreen& screen);
-    const QImage& Picture(const std::string& path);
+    // The picture of a file in the greys of the device at the depth (0: its
+    // own colours), read once and kept; a file that does not load is a null
+    // image.
+    const QImage& Picture(const std::string& path, int depth);
 
     double unitsPerPixel_;
 

@@ -58,6 +58,7 @@ DrawElementList ctlKOMAForm::GetDrawElements() const {
 
     DrawElement image = ImageElement("imgFormBitmap", Scaled(parts.bitmap, s), bitmapFile_);
     image.visible = parts.bitmapVisible;
+    image.imageDepth = bitmapDepth_;
     elements.push_back(image);
 
     DrawElement title = TextElement("lblTitle", Scaled(parts.title, s), title_);
