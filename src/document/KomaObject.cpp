@@ -254,8 +254,18 @@ void KomaObject::FillSharedPropertyRows(PropertyArray& rows) const {
 
 bool KomaObject::ApplySharedPropertyRows(const PropertyArray& rows) {
     // 1. The shape.
-    if (rows.Columns() != 3 || rows.Rows() != PropertyRowCount()) return false;
+    if (!HasOwnRowShape(rows)) return false;
+    ApplyNameRow(rows);
+    ApplyPositionRows(rows);
+    ApplySizeRows(rows);
+    return true;
+}
 
+bool KomaObject::HasOwnRowShape(const PropertyArray& rows) const {
+    return rows.Columns() == 3 && rows.Rows() == PropertyRowCount();
+}
+
+void KomaObject::ApplyNameRow(const PropertyArray& rows) {
     // 2. The name: it must pass the name rule and differ; then it must be free.
     // A name row the user emptied is no name at all: it is passed over like
     // any other text that fails the rule, and the old name stays.
@@ -267,7 +277,9 @@ bool KomaObject::ApplySharedPropertyRows(const PropertyArray& rows) {
             Message(LoadResString(msg::NameMustBeUnique));
         }
     }
+}
 
+void KomaObject::ApplyPositionRows(const PropertyArray& rows) {
     // 3. and 4. The position: numeric text that differs goes to the setter, and
     // the moved event follows with the values now held, even when refused.
     const std::string xText = rows.Value(2).Text();
@@ -275,6 +287,7 @@ bool KomaObject::ApplySharedPropertyRows(const PropertyArray& rows) {
         const int x = ToInt16(xText);
         if (x != boundsX_) {
             KOMABoundsX(x);
+            AfterRowX();
             RaiseMoved();
         }
     }
@@ -283,10 +296,13 @@ bool KomaObject::ApplySharedPropertyRows(const PropertyArray& rows) {
         const int y = ToInt16(yText);
         if (y != boundsY_) {
             KOMABoundsY(y);
+            AfterRowY();
             RaiseMoved();
         }
     }
+}
 
+void KomaObject::ApplySizeRows(const PropertyArray& rows) {
     // 5. The height before the width. The text is converted first (text that
     // is no number is a run-time failure of the whole call), then tested.
     const int height = ToInt16(rows.Value(5).Text());
@@ -305,7 +321,6 @@ bool KomaObject::ApplySharedPropertyRows(const PropertyArray& rows) {
             Message("Invalid width value", "KOMAWidth");
         }
     }
-    return true;
 }
 
 void KomaObject::ApplyRowHeight(int height) {
@@ -367,6 +382,10 @@ void KomaObject::RaiseMoved() {
 
 void KomaObject::RaiseResized() {
     if (owner_) owner_->ObjectResized(*this, width_, height_);
+}
+
+void KomaObject::RaiseResized(int width, int height) {
+    if (owner_) owner_->ObjectResized(*this, width, height);
 }
 
 void KomaObject::RaisePicChanged() {

@@ -169,6 +169,17 @@ protected:
     // the name, X, Y, then the height before the width. False (and nothing
     // changed) when the shape is wrong.
     bool ApplySharedPropertyRows(const PropertyArray& rows);
+    // Its parts, for a kind whose rows are not the shared five: the shape
+    // (the class's own row count, three columns), the name row, the X and Y
+    // rows (each followed by the moved event), the height and width rows.
+    bool HasOwnRowShape(const PropertyArray& rows) const;
+    void ApplyNameRow(const PropertyArray& rows);
+    void ApplyPositionRows(const PropertyArray& rows);
+    void ApplySizeRows(const PropertyArray& rows);
+    // A changed X or Y row, after the setter and before the moved event: a
+    // kind that keeps a copy of its position takes it here.
+    virtual void AfterRowX() {}
+    virtual void AfterRowY() {}
     // Rows 1 to 5 of GetPropertyList: name, X, Y, width, height.
     void FillSharedPropertyRows(PropertyArray& rows) const;
 
@@ -192,6 +203,9 @@ protected:
     // Raise events to the owner.
     void RaiseMoved();
     void RaiseResized();
+    // The resized event with a size of the object's choosing (a picture's):
+    // the owner sets the object's size in answer.
+    void RaiseResized(int width, int height);
     void RaisePicChanged();
 
 private:

@@ -5,6 +5,7 @@
 
 #include "document/ObjectTypes.h"
 #include "objects/ControlRecord.h"
+#include "objects/bitmap/modBitmap.h"
 #include "objects/button/modButton.h"
 #include "objects/form/FormRecord.h"
 #include "objects/string/modString.h"
@@ -18,7 +19,7 @@ RecordKinds MakeStandardKinds() {
     // The parsers are plugged in kind by kind; nullptr: not readable yet.
     kinds.sections = {
         {"#FORM", type::Form, ParseFormRecord, "Could not load form object", "Could not create form"},
-        {"#BITMAP", type::Bitmap, nullptr, "Could not load bitmap object",
+        {"#BITMAP", type::Bitmap, ParseBitmapRecord, "Could not load bitmap object",
          "Could not create bitmap"},
         {"#FIELD", type::Field, nullptr, "Could not load field object", "Could not create field"},
         {"#LINE", type::Line, nullptr, "Could not load line object", "Could not create line"},

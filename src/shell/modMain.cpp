@@ -9,6 +9,7 @@
 #include "document/Words.h"
 #include "inspector/ValueLists.h"
 #include "objects/form/FormStyles.h"
+#include "objects/bitmap/modBitmap.h"
 #include "objects/button/modButton.h"
 #include "objects/string/modString.h"
 #include "canvas/qt/CanvasWidget.h"
@@ -45,7 +46,7 @@ const std::vector<ValueListStep>& ValueListSteps() {
         {"button", type::Button, &FillButtonValueLists},
         {"string", type::String, &FillStringValueLists},
         {"repeat button", type::RepeatButton, nullptr},
-        {"bitmap", type::Bitmap, nullptr},
+        {"bitmap", type::Bitmap, &FillBitmapValueLists},
         {"checkbox", type::Checkbox, nullptr},
         {"push button", type::PushButton, nullptr},
         {"textbox", type::Textbox, nullptr},

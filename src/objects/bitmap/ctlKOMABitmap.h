@@ -1,12 +1,111 @@
 #pragma once
-// ctlKOMABitmap: a bitmap: a picture; its size follows the picture.
+// ctlKOMABitmap: a picture on a form. It holds two pictures of one size,
+// Bitmap 1 and Bitmap 2, each with its depth; the object's size follows the
+// picture loaded last. The screen shows Bitmap 1 only; Bitmap 2 goes to the
+// record.
 #include "document/KomaObject.h"
 
 namespace tolva {
 
 class ctlKOMABitmap : public KomaObject {
 public:
+    static constexpr int kRowCount = 11;
+
     ctlKOMABitmap();
+
+    // 0 "BITMAP_STYLE_0", 1 "BITMAP_STYLE_1"; another number changes nothing.
+    int KOMABitmapStyle() const;
+    void KOMABitmapStyle(int style);
+    const std::string& KOMABitmapStyleWord() const { return styleWord_; }
+
+    // Places and sizes of the two pictures as the record holds them: X and
+    // Y 0 to 159, width and height 0 to 160.
+    int KOMABitmap1X() const { return bitmap1_.x; }
+    void KOMABitmap1X(int x);
+    int KOMABitmap1Y() const { return bitmap1_.y; }
+    void KOMABitmap1Y(int y);
+    int KOMABitmap1Width() const { return bitmap1_.width; }
+    void KOMABitmap1Width(int width);
+    int KOMABitmap1Height() const { return bitmap1_.height; }
+    void KOMABitmap1Height(int height);
+    int KOMABitmap2X() const { return bitmap2_.x; }
+    void KOMABitmap2X(int x);
+    int KOMABitmap2Y() const { return bitmap2_.y; }
+    void KOMABitmap2Y(int y);
+    int KOMABitmap2Width() const { return bitmap2_.width; }
+    void KOMABitmap2Width(int width);
+    int KOMABitmap2Height() const { return bitmap2_.height; }
+    void KOMABitmap2Height(int height);
+
+    // The picture files: stored only when the picture loads (see
+    // LoadBitmapPicture); the empty path takes the picture away.
+    const std::string& KOMABitmap1File() const { return bitmap1_.file; }
+    void KOMABitmap1File(const std::string& path);
+    const std::string& KOMABitmap2File() const { return bitmap2_.file; }
+    void KOMABitmap2File(const std::string& path);
+
+    // Bits per pixel, 2 or 4; another number changes nothing.
+    int KOMABitmap1Depth() const { return bitmap1_.depth; }
+    void KOMABitmap1Depth(int depth);
+    int KOMABitmap2Depth() const { return bitmap2_.depth; }
+    void KOMABitmap2Depth(int depth);
+
+    bool KOMAEnable() const { return enableWord_ == "TRUE"; }
+    void KOMAEnable(bool value) { enableWord_ = value ? "TRUE" : "FALSE"; }
+    bool KOMAActive() const { return activeWord_ == "TRUE"; }
+    void KOMAActive(bool value) { activeWord_ = value ? "TRUE" : "FALSE"; }
+    bool KOMAVisible() const { return visibleWord_ == "TRUE"; }
+    void KOMAVisible(bool value) { visibleWord_ = value ? "TRUE" : "FALSE"; }
+    const std::string& KOMAEnableWord() const { return enableWord_; }
+    const std::string& KOMAActiveWord() const { return activeWord_; }
+    const std::string& KOMAVisibleWord() const { return visibleWord_; }
+
+    // The popup menu's actions (BitmapPictures.cpp).
+    void SetBitmapFromChooser(int which);
+    void RemoveBitmap(int which);
+
+    // --- the contract --------------------------------------------------------------
+    int PropertyRowCount() const override { return kRowCount; }
+    void GetPropertyList(PropertyArray& rows) override;
+    bool SetPropertyList(const PropertyArray& rows) override;
+    bool CopyModelFrom(const KomaObject& other) override;
+    // The record and a loaded record applied (BitmapRecord.cpp).
+    void ReturnResourceFileText(LineList& lines, bool& ok) override;
+    void SetFromResText(const GroupList& groups, bool& ok) override;
+    // imgBitmap1 shown, imgBitmap2 hidden (BitmapDrawing.cpp).
+    DrawElementList GetDrawElements() const override;
+    // A right press opens the popup menu instead of the mouse-down event.
+    void MouseDown(int button, int shift, double x, double y) override;
+
+private:
+    struct Picture {
+        int x = 0;
+        int y = 0;
+        int width = 10;
+        int height = 10;
+        std::string file;
+        int depth = 4;
+        // What the screen shows: the loaded picture's size in pixels.
+        bool shown = false;
+        int pixelWidth = 0;
+        int pixelHeight = 0;
+    };
+
+    // Loads the picture of bitmap 1 or 2 from the path; true when the path
+    // may be stored (BitmapPictures.cpp).
+    bool LoadBitmapPicture(int which, const std::string& path);
+    void SetBitmapFile(int which, const std::string& path);
+    Picture& Of(int which) { return which == 1 ? bitmap1_ : bitmap2_; }
+    // The four place setters share their test: the message names the
+    // property, under the object's name.
+    bool InRange(int value, int high, const char* what);
+
+    std::string styleWord_ = "BITMAP_STYLE_0";
+    Picture bitmap1_;
+    Picture bitmap2_;
+    std::string enableWord_ = "TRUE";
+    std::string activeWord_ = "TRUE";
+    std::string visibleWord_ = "TRUE";
 };
 
 }  // namespace tolva
