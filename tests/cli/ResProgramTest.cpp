@@ -212,3 +212,46 @@ TEST(ResCommand, TheCommandLineIsCheckedBeforeAnythingIsRead) {
 
 }  // namespace
 }  // namespace tolva::testing
+
+namespace tolva::testing {
+namespace {
+
+// A form holding a Bitmap whose every field is away from its default; the
+// two pictures stand beside the design.
+class BitmapResave : public ResProgram {
+protected:
+    void WritePictures() {
+        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+        BmpSpec icon;
+        icon.width = 16;
+        icon.height = 12;
+        WriteFile(dir / "ICON1.BMP", BmpFile(icon));
+        icon.height = -12;  // the second stored top down
+        WriteFile(dir / "ICON2.BMP", BmpFile(icon));
+    }
+};
+
+TEST_F(BitmapResave, AFullRecordGoesThroughByteForByte) {
+    WriteFile(dir / "in.txt", Golden("bitmap_full.txt"));
+    WritePictures();
+    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("bitmap_full.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("bitmap_full.h"));
+}
+
+TEST_F(BitmapResave, MissingPicturesAreReportedAndTheirSectionsWrittenBlank) {
+    WriteFile(dir / "in.txt", Golden("bitmap_full.txt"));
+    WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(err, "LOGO: Bitmap not found\nLOGO: Bitmap not found\n");
+    const std::string out = ReadFile(dir / "out.txt");
+    const std::string blank = "~F4\r\n//You did not specify a bitmap so this section has been left blank\r\n"
+                              "~F5\r\n//You did not specify a bitmap so this section has been left blank\r\n"
+                              "~F6\r\n";
+    EXPECT_NE(out.find(blank), std::string::npos);
+    EXPECT_EQ(out.find("ICON1.BMP"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tolva::testing
