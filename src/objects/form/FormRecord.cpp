@@ -8,6 +8,7 @@
 #include "objects/form/FormStyles.h"
 #include "objects/form/ctlKOMAForm.h"
 #include "objects/table/ctlKOMATable.h"
+#include "objects/PictureFiles.h"
 #include "objects/RecordHeads.h"
 #include "resfile/Banners.h"
 #include "resfile/LoadedRecord.h"
@@ -16,9 +17,6 @@
 namespace tolva {
 
 namespace {
-
-constexpr const char* kMissingBitmap =
-    "//Could not find this bitmap - make sure it is in the specified path before compiling";
 
 bool TextKey(RecordReader& in, const char* key, std::string& value) { return in.Key(key, value); }
 
@@ -65,10 +63,7 @@ void ctlKOMAForm::ReturnResourceFileText(LineList& lines, bool& ok) {
     if (bitmapFile_.empty()) {
         lines.push_back("(P)FORM_BITMAP.FILE=Q_FOUR_BIT,FORM.BMP");
     } else {
-        if (!host().FileExists(bitmapFile_)) lines.push_back(kMissingBitmap);
-        lines.push_back(std::string(bitmapDepth_ == 2 ? "(P)FORM_BITMAP.FILE=Q_TWO_BIT,"
-                                                      : "(P)FORM_BITMAP.FILE=Q_FOUR_BIT,") +
-                        SplitPath(bitmapFile_, kPathFileName));
+        AppendPictureFileLine(lines, host(), "(P)FORM_BITMAP.FILE=", bitmapDepth_, bitmapFile_);
     }
 
     // The count holds every row, every menu and every object in the cells of
@@ -148,13 +143,7 @@ bool ParseFormRecord(RecordReader& in, LoadedRecord& record) {
              {"(SH)FORM_BITMAP.Y=", "(SH)FORM_BITMAP.WIDTH=", "(SH)FORM_BITMAP.HEIGHT="})
             if (!NumberKey(in, key, g[5])) return false;
         line = in.Line();
-        if (LineHasKey(line, "(P)FORM_BITMAP.FILE=Q_FOUR_BIT,", text)) {
-            depth = 4;
-        } else if (LineHasKey(line, "(P)FORM_BITMAP.FILE=Q_TWO_BIT,", text)) {
-            depth = 2;
-        } else {
-            return in.Fail(line);
-        }
+        if (!ReadPictureFileLine(line, "(P)FORM_BITMAP.FILE=", depth, text)) return in.Fail(line);
         g[5].push_back(text);
         if (!in.Word("~F6")) return false;
     }

@@ -5,7 +5,7 @@
 
 #include <filesystem>
 #include <fstream>
-#include <random>
+#include <memory>
 
 #include "document/RuntimeFailure.h"
 #include "objects/bitmap/ctlKOMABitmap.h"
@@ -14,6 +14,7 @@
 #include "resfile/RecordReader.h"
 #include "resfile/ResourceReader.h"
 #include "support/RecordingOwner.h"
+#include "support/ShortNamedDirectory.h"
 #include "support/TestStrings.h"
 
 namespace tolva::testing {
@@ -29,21 +30,10 @@ protected:
         EnsureStringsLoaded();
         bitmap.SetOwner(&owner);
         bitmap.KOMAName("BITMAP_1");
-        previous_ = fs::current_path();
-        std::random_device random;
-        for (int attempt = 0; attempt < 100 && root_.empty(); ++attempt) {
-            const fs::path candidate =
-                fs::temp_directory_path() / ("b" + std::to_string(random() % 10000000));
-            if (fs::create_directory(candidate)) root_ = candidate;
-        }
-        ASSERT_FALSE(root_.empty());
-        fs::current_path(root_);
+        workDir_ = std::make_unique<ShortNamedDirectory>("b");
+        ASSERT_TRUE(workDir_->Made());
     }
-    void TearDown() override {
-        fs::current_path(previous_);
-        std::error_code ec;
-        if (!root_.empty()) fs::remove_all(root_, ec);
-    }
+    void TearDown() override { workDir_.reset(); }
 
     void MakePicture(const std::string& path, int width, int height) {
         std::ofstream(path) << "BM";
@@ -62,8 +52,7 @@ protected:
 
     RecordingOwner owner;
     ctlKOMABitmap bitmap;
-    fs::path previous_;
-    fs::path root_;
+    std::unique_ptr<ShortNamedDirectory> workDir_;
 };
 
 // --- model and setters ----------------------------------------------------------------------

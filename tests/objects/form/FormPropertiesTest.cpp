@@ -2,6 +2,8 @@
 // inspector rows and how SetPropertyList applies them.
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -12,6 +14,7 @@
 #include "objects/form/FormStyles.h"
 #include "objects/form/ctlKOMAForm.h"
 #include "support/RecordingOwner.h"
+#include "support/ShortNamedDirectory.h"
 #include "support/TestStrings.h"
 
 namespace tolva {
@@ -391,22 +394,11 @@ class FormBitmapTest : public FormPropertiesTest {
 protected:
     void SetUp() override {
         FormPropertiesTest::SetUp();
-        previous_ = fs::current_path();
-        std::random_device random;
-        for (int attempt = 0; attempt < 100 && root_.empty(); ++attempt) {
-            const fs::path candidate =
-                fs::temp_directory_path() / ("f" + std::to_string(random() % 10000000));
-            if (fs::create_directory(candidate)) root_ = candidate;
-        }
-        ASSERT_FALSE(root_.empty());
-        fs::current_path(root_);
+        workDir_ = std::make_unique<testing::ShortNamedDirectory>("f");
+        ASSERT_TRUE(workDir_->Made());
     }
 
-    void TearDown() override {
-        fs::current_path(previous_);
-        std::error_code ec;
-        if (!root_.empty()) fs::remove_all(root_, ec);
-    }
+    void TearDown() override { workDir_.reset(); }
 
     // A picture file on disk, with the size the host gives for it.
     void MakePicture(const std::string& path, int width, int height) {
@@ -414,8 +406,7 @@ protected:
         owner.host.pictures[path] = PictureSize{width, height};
     }
 
-    fs::path previous_;
-    fs::path root_;
+    std::unique_ptr<testing::ShortNamedDirectory> workDir_;
 };
 
 TEST_F(FormBitmapTest, GoodFileIsLoadedStoredAndRaisesPicChanged) {
