@@ -29,7 +29,7 @@ public:
     void SaveSetting(const std::string&, const std::string&, const std::string&,
                      const std::string&) override {}
     std::optional<PictureSize> LoadPicture(const std::string& path) override;
-    std::optional<int> PopupMenu(const std::string&, const std::vector<std::string>&) override {
+    std::optional<int> PopupMenu(const std::string&, const std::vector<PopupEntry>&) override {
         return std::nullopt;
     }
     void SetCursor(CursorShape) override {}

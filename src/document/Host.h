@@ -37,6 +37,13 @@ struct PictureSize {
     int height = 0;  // pixels
 };
 
+// An entry of a popup menu: the name its item carries, so that it can be
+// found like any other control, and its text.
+struct PopupEntry {
+    std::string name;
+    std::string text;
+};
+
 class Host {
 public:
     virtual ~Host() = default;
@@ -59,9 +66,9 @@ public:
     virtual std::optional<PictureSize> LoadPicture(const std::string& path) = 0;
 
     // A popup menu with a title and its entries; the index (from 0) of the
-    // chosen entry, or nothing.
+    // chosen entry, or nothing. An entry's text "-" is a separator.
     virtual std::optional<int> PopupMenu(const std::string& title,
-                                         const std::vector<std::string>& entries) = 0;
+                                         const std::vector<PopupEntry>& entries) = 0;
 
     virtual void SetCursor(CursorShape shape) = 0;
 

@@ -20,6 +20,14 @@ int KomaControl::KOMAControlStyle() {
     return 0;
 }
 
+void KomaControl::KOMAControlStyle(int style) {
+    if (style == ownControlStyle_) {
+        controlStyleWord_ = ownControlStyleWord_;
+    } else if (style == 0) {
+        Message("Unknown control style", "KOMAControlStyle");
+    }
+}
+
 void KomaControl::KOMAControlText(const std::string& text) {
     controlText_ = text;
     LayOut();
@@ -58,7 +66,7 @@ bool KomaControl::CopyModelFrom(const KomaObject& other) {
 void KomaControl::AppendControlHead(LineList& lines, const HeadComments& comments) const {
     AppendRecordBanner(lines, KOMAName(), true);
     AppendHeadA(lines, *this, "#CONTROL", comments.size);
-    lines.push_back(comments.style);
+    if (!comments.style.empty()) lines.push_back(comments.style);
     lines.push_back("(B)CONTROL_STYLE=" + controlStyleWord_);
     lines.push_back("~F4");
     lines.push_back(comments.subtype);

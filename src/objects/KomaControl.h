@@ -16,6 +16,10 @@ public:
     // box, 4 popup trigger, from the stored word. A word that is not this
     // class's own gives 0; a stored "0" is reported as an unknown style.
     virtual int KOMAControlStyle();
+    // The setter: the kind's own number stores its word; 0, the button's
+    // number, shows "Unknown control style" on the other kinds; any other
+    // number changes nothing.
+    void KOMAControlStyle(int style);
     const std::string& KOMAControlStyleWord() const { return controlStyleWord_; }
 
     // --- the head's values ------------------------------------------------------
@@ -53,7 +57,8 @@ protected:
     void SetTextAlignmentWord(const std::string& word) { alignmentWord_ = word; }
 
     // The comments a kind writes in its head: the one above the style word
-    // ("// Always BUTTON") and the one above the subtype word.
+    // ("// Always BUTTON"; a kind with none leaves it empty and no line is
+    // written) and the one above the subtype word.
     struct HeadComments {
         std::string style;
         std::string subtype;

@@ -106,18 +106,19 @@ std::optional<PictureSize> QtHost::LoadPicture(const std::string& path) {
 }
 
 std::optional<int> QtHost::PopupMenu(const std::string& title,
-                                     const std::vector<std::string>& entries) {
+                                     const std::vector<PopupEntry>& entries) {
     QMenu menu(DialogParent());
     menu.setTitle(FromCp1252(title));
     // The menu is named after its title, "Set Properties" giving
     // "mnuSetProperties", so that it can be found like every other control.
     menu.setObjectName("mnu" + FromCp1252(title).remove(' '));
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        if (entries[i] == "-") {
+        if (entries[i].text == "-") {
             menu.addSeparator();
             continue;
         }
-        QAction* action = menu.addAction(FromCp1252(entries[i]));
+        QAction* action = menu.addAction(FromCp1252(entries[i].text));
+        action->setObjectName(QString::fromStdString(entries[i].name));
         action->setData(static_cast<int>(i));
     }
     QAction* chosen = menu.exec(QCursor::pos());

@@ -34,7 +34,7 @@ public:
                      const std::string& key, const std::string& value) override;
     std::optional<PictureSize> LoadPicture(const std::string& path) override;
     std::optional<int> PopupMenu(const std::string& title,
-                                 const std::vector<std::string>& entries) override;
+                                 const std::vector<PopupEntry>& entries) override;
     void SetCursor(CursorShape shape) override;
     void OpenInViewer(const std::string& path) override;
     void OpenMail(const std::string& address, const std::string& workingDirectory) override;

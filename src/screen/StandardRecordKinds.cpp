@@ -8,6 +8,7 @@
 #include "objects/bitmap/modBitmap.h"
 #include "objects/button/modButton.h"
 #include "objects/form/FormRecord.h"
+#include "objects/repeatbutton/modRepeatbutton.h"
 #include "objects/string/modString.h"
 
 namespace tolva {
@@ -44,7 +45,7 @@ RecordKinds MakeStandardKinds() {
          "Could not create popuptrigger"},
         {"PUSH_BUTTON", type::PushButton, nullptr, "Could not load pushbutton object",
          "Could not create pushbutton"},
-        {"REPEAT_BUTTON", type::RepeatButton, nullptr, "Could not load repeatbutton object",
+        {"REPEAT_BUTTON", type::RepeatButton, ParseRepeatButtonRecordTail, "Could not load repeatbutton object",
          "Could not create repeatbutton"},
         {"CHECKBOX", type::Checkbox, nullptr, "Could not load checkbox object",
          "Could not create checkbox"},

@@ -11,6 +11,7 @@
 #include "objects/form/FormStyles.h"
 #include "objects/bitmap/modBitmap.h"
 #include "objects/button/modButton.h"
+#include "objects/repeatbutton/modRepeatbutton.h"
 #include "objects/string/modString.h"
 #include "canvas/qt/CanvasWidget.h"
 #include "platform/QtHost.h"
@@ -45,7 +46,7 @@ const std::vector<ValueListStep>& ValueListSteps() {
         {"form", type::Form, &FillFormValueLists},
         {"button", type::Button, &FillButtonValueLists},
         {"string", type::String, &FillStringValueLists},
-        {"repeat button", type::RepeatButton, nullptr},
+        {"repeat button", type::RepeatButton, &FillRepeatButtonValueLists},
         {"bitmap", type::Bitmap, &FillBitmapValueLists},
         {"checkbox", type::Checkbox, nullptr},
         {"push button", type::PushButton, nullptr},

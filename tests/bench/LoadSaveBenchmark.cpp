@@ -61,7 +61,7 @@ public:
     std::optional<tolva::PictureSize> LoadPicture(const std::string&) override {
         return tolva::PictureSize{10, 12};
     }
-    std::optional<int> PopupMenu(const std::string&, const std::vector<std::string>&) override {
+    std::optional<int> PopupMenu(const std::string&, const std::vector<tolva::PopupEntry>&) override {
         return {};
     }
     void SetCursor(tolva::CursorShape) override {}

@@ -255,3 +255,80 @@ TEST_F(BitmapResave, MissingPicturesAreReportedAndTheirSectionsWrittenBlank) {
 
 }  // namespace
 }  // namespace tolva::testing
+
+namespace tolva::testing {
+namespace {
+
+// A form holding a Repeat button whose every field that a load keeps is away
+// from its default; its picture and the form's stand beside the design.
+class RepeatButtonResave : public ResProgram {
+protected:
+    void WritePictures() {
+        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+        WriteFile(dir / "ARROW.BMP", BmpBytes(16, 12));
+    }
+    static std::string FullWith(const std::string& from, const std::string& to) {
+        std::string text = Golden("repeatbutton_full.txt");
+        const auto at = text.find(from);
+        EXPECT_NE(at, std::string::npos) << from;
+        text.replace(at, from.size(), to);
+        return text;
+    }
+};
+
+TEST_F(RepeatButtonResave, AFullRecordGoesThroughByteForByte) {
+    WriteFile(dir / "in.txt", Golden("repeatbutton_full.txt"));
+    WritePictures();
+    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("repeatbutton_full.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("repeatbutton_full.h"));
+}
+
+TEST_F(RepeatButtonResave, AMissingPictureIsToldAndWrittenBackLeftBlankWithFormBmp) {
+    WriteFile(dir / "in.txt", Golden("repeatbutton_full.txt"));
+    WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(err, "Tolva Resource Editor: Bitmap not found\n");
+    EXPECT_EQ(ReadFile(dir / "out.txt"),
+              FullWith("(P)CONTROL_BITMAP.FILE=Q_FOUR_BIT,ARROW.BMP\r\n",
+                       "//You did not specify a bitmap so this section has been left blank\r\n"
+                       "(P)CONTROL_BITMAP.FILE=Q_FOUR_BIT,form.bmp\r\n"));
+}
+
+TEST_F(RepeatButtonResave, ADepthOfTwoIsReadAndWrittenBackAsFour) {
+    WriteFile(dir / "in.txt", FullWith("Q_FOUR_BIT,ARROW.BMP", "Q_TWO_BIT,ARROW.BMP"));
+    WritePictures();
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("repeatbutton_full.txt"));
+}
+
+TEST_F(RepeatButtonResave, AStalePlaceOfTheBitmapGivesWayToTheObjectsWhenThePictureLoads) {
+    WriteFile(dir / "in.txt", FullWith("(SH)CONTROL_BITMAP.X=20", "(SH)CONTROL_BITMAP.X=3"));
+    WritePictures();
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("repeatbutton_full.txt"));
+}
+
+TEST_F(RepeatButtonResave, AFileLineWithAnotherDepthEndsTheRecordAndTheLoad) {
+    WriteFile(dir / "in.txt", FullWith("Q_FOUR_BIT,ARROW.BMP", "Q_EIGHT_BIT,ARROW.BMP"));
+    WritePictures();
+    EXPECT_EQ(Run("check in.txt"), 1);
+    // The closing word that follows is then read as a line between records.
+    EXPECT_EQ(err,
+              "Tolva Resource Editor: Error on line 83:  (P)CONTROL_BITMAP.FILE=Q_EIGHT_BIT,ARROW.BMP\n"
+              "Load Error: Could not load repeatbutton object\n"
+              "Load Error: Invalid/unsupported resource object\n"
+              "Tolva Resource Editor: Could not load resource file\n");
+}
+
+TEST_F(RepeatButtonResave, APlaceOutOfRangeEndsTheLoadSilently) {
+    WriteFile(dir / "in.txt", FullWith("(SH)CONTROL_BITMAP.Y=30", "(SH)CONTROL_BITMAP.Y=99999"));
+    WritePictures();
+    EXPECT_EQ(Run("check in.txt"), 2);
+    EXPECT_EQ(err.rfind("load ended: ", 0), 0u) << err;
+}
+
+}  // namespace
+}  // namespace tolva::testing

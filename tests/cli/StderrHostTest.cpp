@@ -34,7 +34,7 @@ TEST(StderrHost, NoChooserNoMenuNoSetting) {
     StderrHost host(err);
     EXPECT_FALSE(host.ChooseOpenFile({}));
     EXPECT_FALSE(host.ChooseSaveFile({}));
-    EXPECT_FALSE(host.PopupMenu("Set Properties", {"a"}));
+    EXPECT_FALSE(host.PopupMenu("Set Properties", {{"mnuA", "a"}}));
     EXPECT_EQ(host.GetSetting("TolvaDesigner", "Settings", "ShowGrid", "1"), "1");
     EXPECT_TRUE(err.str().empty());
 }

@@ -33,7 +33,9 @@ TEST_F(Flow, EveryObjectToolArmsItsTypeAndPressesItselfAlone) {
         EXPECT_TRUE(Screen().AllowDrawingOnObjects()) << index;
         EXPECT_EQ(window->PressedTool(), index);
         for (int other = 1; other <= 17; ++other) {
-            if (other != index) EXPECT_FALSE(window->ToolAction(other)->isChecked()) << other;
+            if (other != index) {
+                EXPECT_FALSE(window->ToolAction(other)->isChecked()) << other;
+            }
         }
     }
 }

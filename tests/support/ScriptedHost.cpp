@@ -23,6 +23,7 @@ void ScriptedHost::ClearRecord() {
     mailOpened.clear();
     cursors.clear();
     popups.clear();
+    popupNames.clear();
 }
 
 MessageAnswer ScriptedHost::MessageBox(const std::string& text, const std::string& title,
@@ -70,8 +71,15 @@ std::optional<PictureSize> ScriptedHost::LoadPicture(const std::string& path) {
 }
 
 std::optional<int> ScriptedHost::PopupMenu(const std::string& title,
-                                           const std::vector<std::string>& entries) {
-    popups.emplace_back(title, entries);
+                                           const std::vector<PopupEntry>& entries) {
+    std::vector<std::string> texts;
+    std::vector<std::string> names;
+    for (const PopupEntry& entry : entries) {
+        texts.push_back(entry.text);
+        names.push_back(entry.name);
+    }
+    popups.emplace_back(title, texts);
+    popupNames.push_back(names);
     if (popupAnswers.empty()) return std::nullopt;
     auto answer = popupAnswers.front();
     popupAnswers.pop_front();

@@ -45,6 +45,8 @@ public:
     std::vector<std::string> mailOpened;
     std::vector<CursorShape> cursors;
     std::vector<std::pair<std::string, std::vector<std::string>>> popups;
+    // The entries' names of each popup menu, as the menu's items carry them.
+    std::vector<std::vector<std::string>> popupNames;
 
     // The title the box showed: the given one, or the application's title.
     static std::string ShownTitle(const RecordedMessage& m);
@@ -63,7 +65,7 @@ public:
                      const std::string& key, const std::string& value) override;
     std::optional<PictureSize> LoadPicture(const std::string& path) override;
     std::optional<int> PopupMenu(const std::string& title,
-                                 const std::vector<std::string>& entries) override;
+                                 const std::vector<PopupEntry>& entries) override;
     void SetCursor(CursorShape shape) override;
     void OpenInViewer(const std::string& path) override;
     void OpenMail(const std::string& address, const std::string& workingDirectory) override;

@@ -30,8 +30,11 @@ void ctlKOMABitmap::MouseDown(int button, int shift, double x, double y) {
         KomaObject::MouseDown(button, shift, x, y);
         return;
     }
-    const std::optional<int> choice = host().PopupMenu(
-        "Set Properties", {"Set Bitmap 1", "Set Bitmap 2", "Remove Bitmap 1", "Remove Bitmap 2"});
+    const std::optional<int> choice = host().PopupMenu("Set Properties",
+                                                       {{"mnuSetPropBitmap1", "Set Bitmap 1"},
+                                                        {"mnuSetPropBitmap2", "Set Bitmap 2"},
+                                                        {"mnuSetPropRemove1", "Remove Bitmap 1"},
+                                                        {"mnuSetPropRemove2", "Remove Bitmap 2"}});
     if (!choice) return;
     switch (*choice) {
         case 0: SetBitmapFromChooser(1); break;

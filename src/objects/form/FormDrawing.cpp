@@ -77,7 +77,8 @@ void ctlKOMAForm::MouseDown(int button, int shift, double x, double y) {
         return;
     }
     const std::optional<int> choice =
-        host().PopupMenu(kPopupTitle, {"Set Form Bitmap...", "Remove Form Bitmap"});
+        host().PopupMenu(kPopupTitle, {{"mnuSetFormBitmap", "Set Form Bitmap..."},
+                                       {"mnuRemoveFormBitmap", "Remove Form Bitmap"}});
     if (!choice) return;
     if (*choice == kSetFormBitmap) ChooseFormBitmap();
     if (*choice == kRemoveFormBitmap) RemoveFormBitmap();

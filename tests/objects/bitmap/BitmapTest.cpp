@@ -230,6 +230,9 @@ TEST_F(BitmapTest, ThePopupMenuChoosesAndRemovesEachPicture) {
     EXPECT_EQ(owner.host.popups[0].second,
               (std::vector<std::string>{"Set Bitmap 1", "Set Bitmap 2", "Remove Bitmap 1",
                                         "Remove Bitmap 2"}));
+    EXPECT_EQ(owner.host.popupNames.at(0),
+              (std::vector<std::string>{"mnuSetPropBitmap1", "mnuSetPropBitmap2",
+                                        "mnuSetPropRemove1", "mnuSetPropRemove2"}));
     EXPECT_EQ(owner.host.openRequests.at(0).filter, "Bitmaps (*.bmp)|*.bmp");
     EXPECT_EQ(bitmap.KOMABitmap1File(), "ICON.BMP");
     // The screen would size the object after the picture.
