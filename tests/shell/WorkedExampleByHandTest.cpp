@@ -1,86 +1,13 @@
 // The worked example drawn by hand in the editor: a form with the mouse, a
 // button in it with the mouse, their values typed into the inspector, and
 // the design saved with Save As: the files are the golden ones.
-#include <QLineEdit>
-#include <QTest>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
-#include "canvas/qt/CanvasWidget.h"
 #include "document/ObjectTypes.h"
-#include "inspector/qt/ctlPropertyView.h"
 #include "objects/button/ctlKOMAButton.h"
 #include "objects/form/ctlKOMAForm.h"
-#include "shell/FilePaths.h"
-#include "shell/MainWindowFixture.h"
-#include "shell/modMain.h"
+#include "shell/ByHandFixture.h"
 
 namespace tolva::testing {
 namespace {
-
-namespace fs = std::filesystem;
-
-std::string ReadFile(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-class ByHand : public MainWindowTest {
-protected:
-    void SetUp() override {
-        MainWindowTest::SetUp();
-        BuildValueLists();
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-        dir = fs::path(::testing::TempDir()) / "tolva_by_hand";
-        fs::remove_all(dir);
-        fs::create_directories(dir);
-    }
-    void TearDown() override {
-        window.reset();
-        fs::remove_all(dir);
-        ResourceFilePath.clear();
-        HeaderFilePath.clear();
-    }
-
-    ctlPropertyView* View() { return Find<ctlPropertyView>("ctlPropView"); }
-    CanvasWidget* Canvas() { return Find<CanvasWidget>("ctlScreen"); }
-
-    template <typename T>
-    T* Editor(const char* name, int index) {
-        for (T* widget : View()->findChildren<T*>(QString::fromLatin1(name)))
-            if (widget->property("index").toInt() == index) return widget;
-        return nullptr;
-    }
-
-    void Drag(QPoint from, QPoint to) {
-        QTest::mousePress(Canvas(), Qt::LeftButton, {}, from);
-        QTest::mouseMove(Canvas(), (from + to) / 2);
-        QTest::mouseMove(Canvas(), to);
-        QTest::mouseRelease(Canvas(), Qt::LeftButton, {}, to);
-    }
-
-    void Enter(int row, const QString& text) {
-        QLineEdit* box = Editor<QLineEdit>("txtAnyValue", row);
-        ASSERT_NE(box, nullptr) << row;
-        box->setFocus(Qt::MouseFocusReason);
-        box->selectAll();
-        QTest::keyClicks(box, text);
-        QTest::keyClick(box, Qt::Key_Return);
-    }
-
-    void ChooseRow(int row, const QString& word) {
-        QComboBox* combo = Editor<QComboBox>("cmbOnlyValue", row);
-        ASSERT_NE(combo, nullptr) << row;
-        const int index = combo->findText(word);
-        ASSERT_GE(index, 0) << word.toStdString();
-        combo->setCurrentIndex(index);
-        emit combo->activated(index);
-    }
-
-    fs::path dir;
-};
 
 TEST_F(ByHand, TheWorkedExampleDrawnAndTypedInTheEditorSavesAsTheGoldenFiles) {
     ClickTool(2);
