@@ -118,6 +118,38 @@ void WriteString(std::ostream& out, const std::string& name, int id, int slot) {
         << "#END_STRING\r\n";
 }
 
+// A picture's section of a Bitmap record: ICON.BMP, which the bench host
+// reads as 10 by 12 pixels.
+void WritePictureSection(std::ostream& out, int which, int x, int y, int depth) {
+    const std::string key = "(SH)BITMAP" + std::to_string(which) + "_BITMAP.";
+    out << key << "X=" << x << "\r\n" << key << "Y=" << y << "\r\n" << key << "WIDTH=10\r\n"
+        << key << "HEIGHT=12\r\n(P)BITMAP" << which << "_BITMAP.FILE="
+        << (depth == 2 ? "Q_TWO_BIT," : "Q_FOUR_BIT,") << "ICON.BMP\r\n";
+}
+
+void WriteBitmap(std::ostream& out, const std::string& name, int id, int slot) {
+    const int y = 16 + slot * 15;
+    WriteHeadA(out, "#BITMAP", name, id, "BITMAP", 130, y, 10, 12);
+    out << "(B)BITMAP_STYLE=BITMAP_STYLE_1\r\n~F4\r\n";
+    WritePictureSection(out, 1, 130, y, 2);
+    out << "~F5\r\n";
+    WritePictureSection(out, 2, 130, y, 4);
+    out << "~F6\r\n(BO)BITMAP_ATTR.BITMAP_ENABLE=TRUE\r\n(BO)BITMAP_ATTR.BITMAP_ACTIVE=TRUE\r\n"
+        << "(BO)BITMAP_ATTR.BITMAP_VISIBLE=TRUE\r\n#END_BITMAP\r\n";
+}
+
+void WriteRepeatButton(std::ostream& out, const std::string& name, int id, int slot) {
+    const int y = 16 + slot * 15;
+    WriteHeadA(out, "#CONTROL", name, id, "CONTROL", 145, y, 10, 12);
+    out << "(B)CONTROL_STYLE=REPEAT_BUTTON\r\n~F4\r\n(B)CONTROL_SUBTYPE=REPEATBUTTON_STYLE_0\r\n"
+        << "~F5\r\n(S)CONTROL_TEXT=Button Text\r\n~F6\r\n(B)TEXTMENT=LEFT\r\n~F7\r\n"
+        << "(BO)CONTROL_ATTR.ENABLE=TRUE\r\n(BO)CONTROL_ATTR.ACTIVE=TRUE\r\n"
+        << "(BO)CONTROL_ATTR.VISIBLE=TRUE\r\n~F8\r\n(SH)CONTROL_BITMAP.X=145\r\n"
+        << "(SH)CONTROL_BITMAP.Y=" << y << "\r\n(SH)CONTROL_BITMAP.WIDTH=10\r\n"
+        << "(SH)CONTROL_BITMAP.HEIGHT=12\r\n(P)CONTROL_BITMAP.FILE=Q_FOUR_BIT,ICON.BMP\r\n"
+        << "#END_CONTROL\r\n";
+}
+
 // The kinds a form holds, in turn: the name prefix, the word of the form's
 // list and the record writer.
 struct ObjectKind {
@@ -128,6 +160,8 @@ struct ObjectKind {
 const ObjectKind kObjectKinds[] = {
     {"BUTTON_", "CONTROL", WriteButton},
     {"STRING_", "STRING", WriteString},
+    {"BITMAP_", "BITMAP", WriteBitmap},
+    {"REPEATBUTTON_", "CONTROL", WriteRepeatButton},
 };
 constexpr int kObjectsPerForm = 9;
 
@@ -263,12 +297,14 @@ int main(int argc, char** argv) {
     }
     const bool check = argc > 1 && std::strcmp(argv[1], "--check") == 0;
     const std::string directory = ProgramDirectory();
-    // The forms name "FORM.BMP": it stands in the working directory, as the
-    // resource compiler wants it, so every form loads its picture.
+    // The forms name "FORM.BMP", bitmaps and repeat buttons "ICON.BMP": they
+    // stand in the working directory, as the resource compiler wants them,
+    // so every picture loads.
     const auto work = std::filesystem::temp_directory_path() / ("tolva-bench-" + std::to_string(getpid()));
     std::filesystem::create_directories(work);
     std::filesystem::current_path(work);
     std::ofstream(work / "FORM.BMP", std::ios::binary) << "BM";
+    std::ofstream(work / "ICON.BMP", std::ios::binary) << "BM";
     // A check measures up to three times and fails only when every
     // measurement is above twelve: a step that grows with the square of the
     // design costs a hundred times, every time, while a busy moment of a
