@@ -3,10 +3,16 @@
 // the Open command); anything else, a crash, a hang or a leak, is a finding.
 // After a load that answered true the design is saved again, so the writer
 // runs over whatever the loader built.
+//
+// The target works in a scratch directory holding the pictures the seed
+// files name (FORM.BMP, ICON1.BMP, ICON2.BMP, ARROW.BMP) and one larger
+// than the screen (HUGE.BMP), so that the picture rules of every kind run.
 #include <unistd.h>
 
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <string>
 
@@ -15,11 +21,44 @@
 #include "document/RuntimeFailure.h"
 #include "screen/ctlTolvaScreen.h"
 #include "screen/ScreenFiles.h"
+#include "support/BmpBytes.h"
 
 namespace {
 
 std::string ScratchPath(const char* what) {
     return "/tmp/tolva-fuzz-" + std::to_string(getpid()) + what;
+}
+
+std::filesystem::path& PictureDirectory() {
+    static std::filesystem::path directory;
+    return directory;
+}
+
+void RemovePictureDirectory() {
+    std::error_code error;
+    std::filesystem::remove_all(PictureDirectory(), error);
+}
+
+// Makes the scratch directory with its pictures and works in it.
+void EnterPictureDirectory() {
+    PictureDirectory() = "/tmp/tf" + std::to_string(getpid() % 1000000);
+    std::filesystem::create_directories(PictureDirectory());
+    const struct {
+        const char* name;
+        int width, height, bits;
+    } pictures[] = {{"FORM.BMP", 10, 12, 24},  {"ICON1.BMP", 16, 12, 4}, {"ICON2.BMP", 16, -12, 8},
+                    {"ARROW.BMP", 16, 12, 1}, {"HUGE.BMP", 200, 200, 24}};
+    for (const auto& p : pictures) {
+        tolva::testing::BmpSpec spec;
+        spec.width = p.width;
+        spec.height = p.height;
+        spec.bitsPerPixel = p.bits;
+        if (p.bits <= 8) spec.palette = {0x000000, 0xFFFFFF}, spec.colorsUsed = 2;
+        if (p.bits <= 8) spec.value = [](int x, int y) { return static_cast<uint32_t>((x + y) & 1); };
+        std::ofstream(PictureDirectory() / p.name, std::ios::binary) << tolva::testing::BmpFile(spec);
+    }
+    std::filesystem::current_path(PictureDirectory());
+    std::atexit(RemovePictureDirectory);
 }
 
 std::string ProgramDirectory() {
@@ -34,6 +73,8 @@ std::string ProgramDirectory() {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     static const std::string directory = ProgramDirectory();
+    static const bool entered = (EnterPictureDirectory(), true);
+    (void)entered;
     static const std::string input = ScratchPath(".txt");
     static const std::string output = ScratchPath("-out.txt");
     static const std::string header = ScratchPath("-out.h");

@@ -1,7 +1,12 @@
 #pragma once
 // QuietHost: a host for the fuzzer. Every box is answered with its first
-// button and forgotten, every chooser is cancelled, no file exists but for
-// the program's own data, and nothing reaches the desktop.
+// button and forgotten, every chooser is cancelled, and nothing reaches the
+// desktop. Files are the real ones: the fuzzer works in a directory of its
+// own that holds a few pictures, so records that name them load them, with
+// the program's own reader, and the picture rules run too.
+#include <filesystem>
+
+#include "canvas/BmpPicture.h"
 #include "document/Host.h"
 
 namespace tolva::fuzz {
@@ -24,14 +29,21 @@ public:
     }
     void SaveSetting(const std::string&, const std::string&, const std::string&,
                      const std::string&) override {}
-    std::optional<PictureSize> LoadPicture(const std::string&) override { return {}; }
-    std::optional<int> PopupMenu(const std::string&, const std::vector<std::string>&) override {
+    std::optional<PictureSize> LoadPicture(const std::string& path) override {
+        const auto picture = ReadBmpFile(path);
+        if (!picture) return {};
+        return PictureSize{picture->width, picture->height};
+    }
+    std::optional<int> PopupMenu(const std::string&, const std::vector<PopupEntry>&) override {
         return {};
     }
     void SetCursor(CursorShape) override {}
     void OpenInViewer(const std::string&) override {}
     void OpenMail(const std::string&, const std::string&) override {}
-    bool FileExists(const std::string&) override { return false; }
+    bool FileExists(const std::string& path) override {
+        std::error_code error;
+        return !path.empty() && std::filesystem::exists(path, error);
+    }
     std::string ProgramDirectory() override { return programDirectory_; }
     int LanguageId() override { return 1033; }
 
