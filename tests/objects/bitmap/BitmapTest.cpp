@@ -13,46 +13,17 @@
 #include "resfile/LoadedRecord.h"
 #include "resfile/RecordReader.h"
 #include "resfile/ResourceReader.h"
-#include "support/RecordingOwner.h"
-#include "support/ShortNamedDirectory.h"
-#include "support/TestStrings.h"
+#include "support/PictureObjectFixture.h"
 
 namespace tolva::testing {
 namespace {
 
 namespace fs = std::filesystem;
 
-// Each test works in a fresh directory of short name, the current one, so
-// that its relative picture paths fit the 8.3 rule.
-class BitmapTest : public ::testing::Test {
+class BitmapTest : public PictureObjectFixture<ctlKOMABitmap> {
 protected:
-    void SetUp() override {
-        EnsureStringsLoaded();
-        bitmap.SetOwner(&owner);
-        bitmap.KOMAName("BITMAP_1");
-        workDir_ = std::make_unique<ShortNamedDirectory>("b");
-        ASSERT_TRUE(workDir_->Made());
-    }
-    void TearDown() override { workDir_.reset(); }
-
-    void MakePicture(const std::string& path, int width, int height) {
-        std::ofstream(path) << "BM";
-        owner.host.pictures[path] = PictureSize{width, height};
-    }
-    PropertyArray Rows() {
-        PropertyArray rows;
-        bitmap.GetPropertyList(rows);
-        return rows;
-    }
-    std::vector<std::string> Messages() const { return owner.host.MessageLines(); }
-    void Clear() {
-        owner.host.ClearRecord();
-        owner.events.clear();
-    }
-
-    RecordingOwner owner;
-    ctlKOMABitmap bitmap;
-    std::unique_ptr<ShortNamedDirectory> workDir_;
+    BitmapTest() : PictureObjectFixture("BITMAP_1", "b") {}
+    ctlKOMABitmap& bitmap = object;
 };
 
 // --- model and setters ----------------------------------------------------------------------
@@ -326,16 +297,8 @@ TEST_F(BitmapTest, TheRowLabelledBitmapTwoSetsBitmapOneAndNothingElse) {
 
 // --- record ---------------------------------------------------------------------------------
 
-LineList Record(ctlKOMABitmap& b) {
-    LineList lines;
-    bool ok = false;
-    b.ReturnResourceFileText(lines, ok);
-    EXPECT_TRUE(ok);
-    return lines;
-}
-
 TEST_F(BitmapTest, ANewBitmapsRecordLeavesBothSectionsBlank) {
-    const LineList lines = Record(bitmap);
+    const LineList lines = RecordOf(bitmap);
     const LineList expected = {
         "#BITMAP",
         "NAME=BITMAP_1",
@@ -379,7 +342,7 @@ TEST_F(BitmapTest, APictureSectionWithItsDepthAndAMissingFileComment) {
     bitmap.KOMABitmap1Y(4);
     bitmap.KOMABitmap1Width(16);
     bitmap.KOMABitmap1Height(12);
-    LineList lines = Record(bitmap);
+    LineList lines = RecordOf(bitmap);
     auto at = std::find(lines.begin(), lines.end(), "~F4");
     ASSERT_NE(at, lines.end());
     EXPECT_EQ(LineList(at + 1, at + 9), (LineList{
@@ -395,7 +358,7 @@ TEST_F(BitmapTest, APictureSectionWithItsDepthAndAMissingFileComment) {
     // A file gone after it was set stays, with the comment before it.
     fs::remove("ICON.BMP");
     owner.host.pictures.erase("ICON.BMP");
-    lines = Record(bitmap);
+    lines = RecordOf(bitmap);
     at = std::find(lines.begin(), lines.end(), "(SH)BITMAP1_BITMAP.HEIGHT=12");
     ASSERT_NE(at, lines.end());
     EXPECT_EQ(*(at + 1),
@@ -424,7 +387,7 @@ TEST_F(BitmapTest, TheRecordIsReadBackGroupByGroup) {
     bitmap.KOMABitmap2File("ICON2.BMP");
     bitmap.KOMABitmap2Depth(2);
     bitmap.KOMAActive(false);
-    const LineList lines = Record(bitmap);
+    const LineList lines = RecordOf(bitmap);
     LoadedRecord record;
     // From the line after "#BITMAP", as the loader hands it over.
     ASSERT_TRUE(Parse(Joined(lines, 4), record, owner.host));
@@ -440,7 +403,7 @@ TEST_F(BitmapTest, TheRecordIsReadBackGroupByGroup) {
 }
 
 TEST_F(BitmapTest, ALeftOutSectionReadsAsZerosAndADepthOfZeroThatIsIgnored) {
-    const LineList lines = Record(bitmap);
+    const LineList lines = RecordOf(bitmap);
     LoadedRecord record;
     ASSERT_TRUE(Parse(Joined(lines, 4), record, owner.host));
     EXPECT_EQ(record.groups[3], (ValueGroup{"0", "0", "0", "0", ""}));
@@ -457,7 +420,7 @@ TEST_F(BitmapTest, ALeftOutSectionReadsAsZerosAndADepthOfZeroThatIsIgnored) {
 }
 
 TEST_F(BitmapTest, ALineOutOfPlaceIsReportedAndTheParseFails) {
-    std::string text = Joined(Record(bitmap), 4);
+    std::string text = Joined(RecordOf(bitmap), 4);
     const std::string marker = "~F5\r\n";
     text.replace(text.find(marker), marker.size(), "~F9\r\n");
     LoadedRecord record;
@@ -469,13 +432,13 @@ TEST_F(BitmapTest, ALineOutOfPlaceIsReportedAndTheParseFails) {
     owner.host.ClearRecord();
     MakePicture("ICON.BMP", 16, 12);
     bitmap.KOMABitmap1File("ICON.BMP");
-    text = Joined(Record(bitmap), 4);
+    text = Joined(RecordOf(bitmap), 4);
     const std::string fileLine = "(P)BITMAP1_BITMAP.FILE=Q_FOUR_BIT,";
     text.replace(text.find(fileLine), fileLine.size(), "(P)BITMAP1_BITMAP.FILE=Q_EIGHT_BIT,");
     EXPECT_FALSE(Parse(text, record, owner.host));
     EXPECT_EQ(owner.host.messages.size(), 1u);
     // A place that is no number ends the load.
-    text = Joined(Record(bitmap), 4);
+    text = Joined(RecordOf(bitmap), 4);
     const std::string x = "(SH)BITMAP1_BITMAP.X=0";
     text.replace(text.find(x), x.size(), "(SH)BITMAP1_BITMAP.X=zero");
     EXPECT_THROW(Parse(text, record, owner.host), RuntimeFailure);
@@ -485,7 +448,7 @@ TEST_F(BitmapTest, AppliedGroupsNeedTheirShape) {
     bool ok = true;
     bitmap.SetFromResText(GroupList(7), ok);
     EXPECT_FALSE(ok);
-    const LineList lines = Record(bitmap);
+    const LineList lines = RecordOf(bitmap);
     LoadedRecord record;
     ASSERT_TRUE(Parse(Joined(lines, 4), record, owner.host));
     GroupList groups = record.groups;
@@ -498,7 +461,7 @@ TEST_F(BitmapTest, AppliedGroupsNeedTheirShape) {
 TEST_F(BitmapTest, AMissingFileOnLoadIsReportedAndTheSectionIsWrittenBlank) {
     MakePicture("ICON.BMP", 16, 12);
     bitmap.KOMABitmap1File("ICON.BMP");
-    const LineList lines = Record(bitmap);
+    const LineList lines = RecordOf(bitmap);
     LoadedRecord record;
     ASSERT_TRUE(Parse(Joined(lines, 4), record, owner.host));
     fs::remove("ICON.BMP");
@@ -511,7 +474,7 @@ TEST_F(BitmapTest, AMissingFileOnLoadIsReportedAndTheSectionIsWrittenBlank) {
     EXPECT_TRUE(ok);
     EXPECT_EQ(loaded.KOMABitmap1File(), "");
     EXPECT_EQ(Messages(), (std::vector<std::string>{"BITMAP_1: Bitmap not found"}));
-    const LineList again = Record(loaded);
+    const LineList again = RecordOf(loaded);
     const auto at = std::find(again.begin(), again.end(), "~F4");
     ASSERT_NE(at, again.end());
     EXPECT_EQ(*(at + 1), "//You did not specify a bitmap so this section has been left blank");

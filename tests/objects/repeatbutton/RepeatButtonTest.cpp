@@ -14,52 +14,24 @@
 #include "resfile/LoadedRecord.h"
 #include "resfile/RecordReader.h"
 #include "resfile/ResourceReader.h"
-#include "support/RecordingOwner.h"
-#include "support/ShortNamedDirectory.h"
-#include "support/TestStrings.h"
+#include "support/PictureObjectFixture.h"
 
 namespace tolva::testing {
 namespace {
 
 namespace fs = std::filesystem;
 
-// Each test works in a fresh directory of short name, the current one, so
-// that its relative picture paths fit the 8.3 rule.
-class RepeatButtonTest : public ::testing::Test {
+class RepeatButtonTest : public PictureObjectFixture<ctlKOMARepeatButton> {
 protected:
-    void SetUp() override {
-        EnsureStringsLoaded();
-        button.SetOwner(&owner);
-        button.KOMAName("REPEATBUTTON_1");
-        workDir_ = std::make_unique<ShortNamedDirectory>("r");
-        ASSERT_TRUE(workDir_->Made());
-    }
-    void TearDown() override { workDir_.reset(); }
+    RepeatButtonTest() : PictureObjectFixture("REPEATBUTTON_1", "r") {}
+    ctlKOMARepeatButton& button = object;
 
-    void MakePicture(const std::string& path, int width, int height) {
-        std::ofstream(path) << "BM";
-        owner.host.pictures[path] = PictureSize{width, height};
-    }
-    PropertyArray Rows() {
-        PropertyArray rows;
-        button.GetPropertyList(rows);
-        return rows;
-    }
     // What the screen does in answer to the resized event: the object's
     // size on the canvas.
     void SizeLikeTheScreen(int width, int height) {
         const double s = button.PCTwipsToTolvaPixels();
         button.SetCanvasSize(width * s, height * s);
     }
-    std::vector<std::string> Messages() const { return owner.host.MessageLines(); }
-    void Clear() {
-        owner.host.ClearRecord();
-        owner.events.clear();
-    }
-
-    RecordingOwner owner;
-    ctlKOMARepeatButton button;
-    std::unique_ptr<ShortNamedDirectory> workDir_;
 };
 
 // --- model and setters ----------------------------------------------------------------------
@@ -388,16 +360,8 @@ TEST_F(RepeatButtonTest, ThePictureStandsOneDesktopPixelInInTheGreysOfItsDepth) 
 
 // --- record ---------------------------------------------------------------------------------
 
-LineList Record(ctlKOMARepeatButton& b) {
-    LineList lines;
-    bool ok = false;
-    b.ReturnResourceFileText(lines, ok);
-    EXPECT_TRUE(ok);
-    return lines;
-}
-
 TEST_F(RepeatButtonTest, ANewRepeatButtonsRecordLineByLine) {
-    const LineList lines = Record(button);
+    const LineList lines = RecordOf(button);
     const LineList expected = {
         "//-----------------------------------------------------------------",
         "//----------- REPEATBUTTON_1 ---------------------",
@@ -450,7 +414,7 @@ TEST_F(RepeatButtonTest, ANewRepeatButtonsRecordLineByLine) {
 
 TEST_F(RepeatButtonTest, ABlankPictureAtDepthTwoStillNamesFormBmp) {
     button.KOMABitmapDepth(2);
-    const LineList lines = Record(button);
+    const LineList lines = RecordOf(button);
     EXPECT_EQ(lines[lines.size() - 3],
               "//You did not specify a bitmap so this section has been left blank");
     EXPECT_EQ(lines[lines.size() - 2], "(P)CONTROL_BITMAP.FILE=Q_TWO_BIT,form.bmp");
@@ -459,12 +423,12 @@ TEST_F(RepeatButtonTest, ABlankPictureAtDepthTwoStillNamesFormBmp) {
 TEST_F(RepeatButtonTest, APictureLineAndTheCommentOfAFileGoneSince) {
     MakePicture("ARROW.BMP", 16, 12);
     button.KOMABitmapFile("ARROW.BMP");
-    LineList lines = Record(button);
+    LineList lines = RecordOf(button);
     EXPECT_EQ(lines[lines.size() - 3], "(SH)CONTROL_BITMAP.HEIGHT=33");
     EXPECT_EQ(lines[lines.size() - 2], "(P)CONTROL_BITMAP.FILE=Q_FOUR_BIT,ARROW.BMP");
     fs::remove("ARROW.BMP");
     owner.host.pictures.erase("ARROW.BMP");
-    lines = Record(button);
+    lines = RecordOf(button);
     EXPECT_EQ(lines[lines.size() - 3],
               "//Could not find this bitmap - make sure it is in the specified path before compiling");
     EXPECT_EQ(lines[lines.size() - 2], "(P)CONTROL_BITMAP.FILE=Q_FOUR_BIT,ARROW.BMP");
@@ -491,7 +455,7 @@ TEST_F(RepeatButtonTest, TheTailIsReadIntoGroupSix) {
     button.KOMABitmapX(7);
     button.KOMABitmapHeight(150);
     LoadedRecord record;
-    ASSERT_TRUE(Parse(Tail(Record(button)), record, owner.host));
+    ASSERT_TRUE(Parse(Tail(RecordOf(button)), record, owner.host));
     ASSERT_EQ(record.groups.size(), 7u);
     EXPECT_EQ(record.groups[6], (ValueGroup{"7", "0", "33", "150", "ARROW.BMP"}));
 }
@@ -501,7 +465,7 @@ TEST_F(RepeatButtonTest, ADepthOfTwoInTheRecordDoesNotSurviveTheLoad) {
     MakePicture("ARROW.BMP", 16, 12);
     button.KOMABitmapFile("ARROW.BMP");
     button.KOMABitmapDepth(2);
-    const LineList written = Record(button);
+    const LineList written = RecordOf(button);
     ASSERT_EQ(written[written.size() - 2], "(P)CONTROL_BITMAP.FILE=Q_TWO_BIT,ARROW.BMP");
     LoadedRecord record;
     ASSERT_TRUE(Parse(Tail(written), record, owner.host));
@@ -522,7 +486,7 @@ TEST_F(RepeatButtonTest, ADepthOfTwoInTheRecordDoesNotSurviveTheLoad) {
     PropertyArray rows;
     loaded.GetPropertyList(rows);
     EXPECT_EQ(rows.Value(9).Text(), "4 Bit");
-    const LineList again = Record(loaded);
+    const LineList again = RecordOf(loaded);
     EXPECT_EQ(again[again.size() - 2], "(P)CONTROL_BITMAP.FILE=Q_FOUR_BIT,ARROW.BMP");
 }
 
@@ -582,7 +546,7 @@ TEST_F(RepeatButtonTest, AMissingFileOnLoadIsReportedAndWrittenBackAsLeftBlank) 
     EXPECT_EQ(button.KOMAWidth(), 16);
     EXPECT_EQ(button.KOMABitmapX(), 1);
     EXPECT_FALSE(button.GetDrawElements()[1].visible);
-    const LineList again = Record(button);
+    const LineList again = RecordOf(button);
     EXPECT_EQ(again[again.size() - 4], "(SH)CONTROL_BITMAP.HEIGHT=12");
     EXPECT_EQ(again[again.size() - 3],
               "//You did not specify a bitmap so this section has been left blank");
@@ -613,7 +577,7 @@ TEST_F(RepeatButtonTest, AppliedGroupsNeedTheirShape) {
 }
 
 TEST_F(RepeatButtonTest, EachLineOutOfPlaceIsReportedAndTheParseFails) {
-    const std::string good = Tail(Record(button));
+    const std::string good = Tail(RecordOf(button));
     struct Case {
         std::string from, to;
     };
@@ -636,7 +600,7 @@ TEST_F(RepeatButtonTest, EachLineOutOfPlaceIsReportedAndTheParseFails) {
 }
 
 TEST_F(RepeatButtonTest, APlaceThatIsNoNumberOrTooLargeEndsTheLoad) {
-    const std::string good = Tail(Record(button));
+    const std::string good = Tail(RecordOf(button));
     for (const std::string& bad : {std::string("(SH)CONTROL_BITMAP.X=left"),
                                    std::string("(SH)CONTROL_BITMAP.X=40000")}) {
         std::string text = good;
