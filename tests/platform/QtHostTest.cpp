@@ -5,10 +5,12 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QImage>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 #include <functional>
 
@@ -33,6 +35,54 @@ void OnNextModal(std::function<void(QWidget*)> check) {
         check(modal);
     };
     QTimer::singleShot(0, [attempt] { (*attempt)(); });
+}
+
+// Runs the check on the popup menu once it is up.
+void OnNextPopup(std::function<void(QMenu*)> check) {
+    auto attempt = std::make_shared<std::function<void()>>();
+    std::weak_ptr<std::function<void()>> weak = attempt;
+    *attempt = [check, weak] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu) {
+            if (auto again = weak.lock()) QTimer::singleShot(10, [again] { (*again)(); });
+            return;
+        }
+        check(menu);
+    };
+    QTimer::singleShot(0, [attempt] { (*attempt)(); });
+}
+
+TEST(QtHost, APopupMenuAndItsItemsCarryTheirNames) {
+    QtHost host;
+    QString menuName, title;
+    QStringList names, texts;
+    OnNextPopup([&](QMenu* menu) {
+        menuName = menu->objectName();
+        title = menu->title();
+        for (QAction* action : menu->actions()) {
+            names << action->objectName();
+            texts << action->text();
+        }
+        // The user picks the item by its name.
+        menu->setActiveAction(menu->findChild<QAction*>("mnuRemoveRepeatButtonBitmap"));
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    const auto choice = host.PopupMenu(
+        "Set Properties", {{"mnuSetRepeatButtonBitmap", "Set Repeat-Button Bitmap"},
+                           {"", "-"},
+                           {"mnuRemoveRepeatButtonBitmap", "Remove Repeat-Button Bitmap"}});
+    ASSERT_TRUE(choice.has_value());
+    EXPECT_EQ(*choice, 2);
+    EXPECT_EQ(menuName, QStringLiteral("mnuSetProperties"));
+    EXPECT_EQ(title, QStringLiteral("Set Properties"));
+    EXPECT_EQ(names, (QStringList{"mnuSetRepeatButtonBitmap", "", "mnuRemoveRepeatButtonBitmap"}));
+    EXPECT_EQ(texts, (QStringList{"Set Repeat-Button Bitmap", "", "Remove Repeat-Button Bitmap"}));
+}
+
+TEST(QtHost, AClosedPopupMenuChoosesNothing) {
+    QtHost host;
+    OnNextPopup([](QMenu* menu) { menu->close(); });
+    EXPECT_FALSE(host.PopupMenu("Set Properties", {{"mnuA", "A"}}).has_value());
 }
 
 TEST(QtHost, MessageBoxWithEmptyTitleShowsTheApplicationsTitle) {
