@@ -35,7 +35,9 @@ class ResProgram : public ::testing::Test {
 protected:
     void SetUp() override {
         const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-        dir = fs::path(::testing::TempDir()) / (std::string("tolva_res_") + info->name());
+        // Suites may share a test's name: both names make the directory.
+        dir = fs::path(::testing::TempDir()) /
+              (std::string("tolva_res_") + info->test_suite_name() + "_" + info->name());
         fs::remove_all(dir);
         fs::create_directories(dir);
     }

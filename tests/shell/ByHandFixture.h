@@ -36,7 +36,8 @@ protected:
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
         const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-        dir = fs::path(::testing::TempDir()) / (std::string("tolva_by_hand_") + info->name());
+        dir = fs::path(::testing::TempDir()) /
+              (std::string("tolva_by_hand_") + info->test_suite_name() + "_" + info->name());
         fs::remove_all(dir);
         fs::create_directories(dir);
     }
