@@ -78,7 +78,7 @@ void KomaControl::AppendControlHead(LineList& lines, const HeadComments& comment
     lines.push_back("//LEFT,CENTRE,RIGHT");
     lines.push_back("(B)TEXTMENT=" + alignmentWord_);
     lines.push_back("~F7");
-    lines.push_back("//TRUE or FALSE");
+    if (!comments.attributes.empty()) lines.push_back(comments.attributes);
     lines.push_back("(BO)CONTROL_ATTR.ENABLE=" + enableWord_);
     lines.push_back("(BO)CONTROL_ATTR.ACTIVE=" + activeWord_);
     lines.push_back("(BO)CONTROL_ATTR.VISIBLE=" + visibleWord_);

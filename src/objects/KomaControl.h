@@ -64,6 +64,9 @@ protected:
         std::string subtype;
         // The comment above the width and height; one kind writes "//0 - 159".
         std::string size = "//0 - 160";
+        // The comment above the three attributes; a kind without it leaves
+        // it empty.
+        std::string attributes = "//TRUE or FALSE";
     };
     // Appends the banner and the head of the record, "#CONTROL" to the
     // "(BO)CONTROL_ATTR.VISIBLE=" line.

@@ -8,6 +8,7 @@
 #include "objects/bitmap/modBitmap.h"
 #include "objects/button/modButton.h"
 #include "objects/form/FormRecord.h"
+#include "objects/pushbutton/modPushbutton.h"
 #include "objects/repeatbutton/modRepeatbutton.h"
 #include "objects/string/modString.h"
 
@@ -43,7 +44,7 @@ RecordKinds MakeStandardKinds() {
          "Could not create button"},
         {"POPUP_TRIGGER", type::PopupTrigger, nullptr, "Could not load popuptrigger object",
          "Could not create popuptrigger"},
-        {"PUSH_BUTTON", type::PushButton, nullptr, "Could not load pushbutton object",
+        {"PUSH_BUTTON", type::PushButton, ParsePushButtonRecordTail, "Could not load pushbutton object",
          "Could not create pushbutton"},
         {"REPEAT_BUTTON", type::RepeatButton, ParseRepeatButtonRecordTail, "Could not load repeatbutton object",
          "Could not create repeatbutton"},

@@ -334,3 +334,22 @@ TEST_F(RepeatButtonResave, APlaceOutOfRangeEndsTheLoadSilently) {
 
 }  // namespace
 }  // namespace tolva::testing
+
+namespace tolva::testing {
+namespace {
+
+using PushButtonResave = ResProgram;
+
+// A Push button whose every field that a load keeps is away from its
+// default; its group is 0, as a load always makes it.
+TEST_F(PushButtonResave, AFullRecordGoesThroughByteForByte) {
+    WriteFile(dir / "in.txt", Golden("pushbutton_full.txt"));
+    WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("pushbutton_full.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("pushbutton_full.h"));
+}
+
+}  // namespace
+}  // namespace tolva::testing
