@@ -150,6 +150,17 @@ void WriteRepeatButton(std::ostream& out, const std::string& name, int id, int s
         << "#END_CONTROL\r\n";
 }
 
+void WritePushButton(std::ostream& out, const std::string& name, int id, int slot) {
+    WriteHeadA(out, "#CONTROL", name, id, "CONTROL", 95, 16 + slot * 15, 30, 14);
+    out << "(B)CONTROL_STYLE=PUSH_BUTTON\r\n~F4\r\n(B)CONTROL_SUBTYPE=PUSHBUTTON_STYLE_"
+        << slot % 4 << "\r\n~F5\r\n(S)CONTROL_TEXT=Push " << id
+        << "\r\n~F6\r\n(B)TEXTMENT=CENTRE\r\n~F7\r\n(BO)CONTROL_ATTR.ENABLE=TRUE\r\n"
+        << "(BO)CONTROL_ATTR.ACTIVE=TRUE\r\n(BO)CONTROL_ATTR.VISIBLE=TRUE\r\n~F8\r\n"
+        << "(B)CONTROL_ADD.COLOR_ON=COLOR_BLACK\r\n(B)CONTROL_ADD.COLOR_OFF=COLOR_WHITE\r\n"
+        << "(U)CONTROL_ADD.GROUP_ID=1\r\n(BO)CONTROL_ADD.CONTROL_VALUE="
+        << (slot % 2 ? "TRUE" : "FALSE") << "\r\n(SH)CONTROL_ADD.RADIUS=2\r\n#END_CONTROL\r\n";
+}
+
 // The kinds a form holds, in turn: the name prefix, the word of the form's
 // list and the record writer.
 struct ObjectKind {
@@ -162,6 +173,7 @@ const ObjectKind kObjectKinds[] = {
     {"STRING_", "STRING", WriteString},
     {"BITMAP_", "BITMAP", WriteBitmap},
     {"REPEATBUTTON_", "CONTROL", WriteRepeatButton},
+    {"PUSHBUTTON_", "CONTROL", WritePushButton},
 };
 constexpr int kObjectsPerForm = 9;
 
