@@ -7,6 +7,7 @@
 #include "objects/ControlRecord.h"
 #include "objects/bitmap/modBitmap.h"
 #include "objects/button/modButton.h"
+#include "objects/checkbox/modCheckbox.h"
 #include "objects/form/FormRecord.h"
 #include "objects/pushbutton/modPushbutton.h"
 #include "objects/repeatbutton/modRepeatbutton.h"
@@ -48,7 +49,7 @@ RecordKinds MakeStandardKinds() {
          "Could not create pushbutton"},
         {"REPEAT_BUTTON", type::RepeatButton, ParseRepeatButtonRecordTail, "Could not load repeatbutton object",
          "Could not create repeatbutton"},
-        {"CHECKBOX", type::Checkbox, nullptr, "Could not load checkbox object",
+        {"CHECKBOX", type::Checkbox, ParseCheckboxRecordTail, "Could not load checkbox object",
          "Could not create checkbox"},
     };
     return kinds;

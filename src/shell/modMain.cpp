@@ -11,6 +11,7 @@
 #include "objects/form/FormStyles.h"
 #include "objects/bitmap/modBitmap.h"
 #include "objects/button/modButton.h"
+#include "objects/checkbox/modCheckbox.h"
 #include "objects/pushbutton/modPushbutton.h"
 #include "objects/repeatbutton/modRepeatbutton.h"
 #include "objects/string/modString.h"
@@ -49,7 +50,7 @@ const std::vector<ValueListStep>& ValueListSteps() {
         {"string", type::String, &FillStringValueLists},
         {"repeat button", type::RepeatButton, &FillRepeatButtonValueLists},
         {"bitmap", type::Bitmap, &FillBitmapValueLists},
-        {"checkbox", type::Checkbox, nullptr},
+        {"checkbox", type::Checkbox, &FillCheckboxValueLists},
         {"push button", type::PushButton, &FillPushButtonValueLists},
         {"textbox", type::Textbox, nullptr},
         {"field", type::Field, nullptr},
