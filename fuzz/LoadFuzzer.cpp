@@ -49,13 +49,13 @@ void EnterPictureDirectory() {
     } pictures[] = {{"FORM.BMP", 10, 12, 24},  {"ICON1.BMP", 16, 12, 4}, {"ICON2.BMP", 16, -12, 8},
                     {"ARROW.BMP", 16, 12, 1}, {"HUGE.BMP", 200, 200, 24}};
     for (const auto& p : pictures) {
-        tolva::testing::BmpSpec spec;
-        spec.width = p.width;
-        spec.height = p.height;
-        spec.bitsPerPixel = p.bits;
-        if (p.bits <= 8) spec.palette = {0x000000, 0xFFFFFF}, spec.colorsUsed = 2;
-        if (p.bits <= 8) spec.value = [](int x, int y) { return static_cast<uint32_t>((x + y) & 1); };
-        std::ofstream(PictureDirectory() / p.name, std::ios::binary) << tolva::testing::BmpFile(spec);
+        tolva::testing::BmpSpec picture;
+        picture.width = p.width;
+        picture.height = p.height;
+        picture.bitsPerPixel = p.bits;
+        if (p.bits <= 8) picture.palette = {0x000000, 0xFFFFFF}, picture.colorsUsed = 2;
+        if (p.bits <= 8) picture.value = [](int x, int y) { return static_cast<uint32_t>((x + y) & 1); };
+        std::ofstream(PictureDirectory() / p.name, std::ios::binary) << tolva::testing::BmpFile(picture);
     }
     std::filesystem::current_path(PictureDirectory());
     std::atexit(RemovePictureDirectory);

@@ -35,11 +35,11 @@ protected:
     }
 
     void MakePicture(const std::string& path, int width, int height) {
-        BmpSpec spec;
-        spec.width = width;
-        spec.height = height;
-        spec.value = [](int x, int y) { return ((x + y) % 3 == 0) ? 0x000000u : 0xC0C0C0u; };
-        std::ofstream(path, std::ios::binary) << BmpFile(spec);
+        BmpSpec picture;
+        picture.width = width;
+        picture.height = height;
+        picture.value = [](int x, int y) { return ((x + y) % 3 == 0) ? 0x000000u : 0xC0C0C0u; };
+        std::ofstream(path, std::ios::binary) << BmpFile(picture);
         host.pictures[path] = PictureSize{width, height};
     }
 
