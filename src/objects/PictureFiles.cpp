@@ -53,6 +53,10 @@ bool ReadPictureFileLine(const std::string& line, const std::string& keyStart, i
     return false;
 }
 
+std::string PicturePlaceRefusal(const char* what, int value) {
+    return std::string("Invalid ") + what + " value: " + std::to_string(value);
+}
+
 std::string DepthRowWord(int depth) { return depth == 4 ? "4 Bit" : "2 Bit"; }
 
 int DepthFromRowWord(const std::string& word) { return word == "2 Bit" ? 2 : 4; }

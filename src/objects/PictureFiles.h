@@ -16,6 +16,25 @@ inline constexpr const char* kNoBitmapComment =
 inline constexpr const char* kMissingBitmapComment =
     "//Could not find this bitmap - make sure it is in the specified path before compiling";
 
+// A picture an object holds: its place and size as the record keeps them
+// (which the picture itself does not change), its file and depth, and the
+// size in pixels of the picture the screen shows, once it has loaded.
+struct ObjectPicture {
+    int x = 0;
+    int y = 0;
+    int width = 10;
+    int height = 10;
+    std::string file;
+    int depth = 4;
+    bool loaded = false;
+    int pixelWidth = 0;
+    int pixelHeight = 0;
+};
+
+// The refusal of a picture's place or size setter, told under the object's
+// name: "Invalid Bitmap1X value: 160".
+std::string PicturePlaceRefusal(const char* what, int value);
+
 // A non-empty path an object is asked to take: a file that is not there
 // shows "Bitmap not found" under notFoundTitle (empty: the application's
 // title); a path that is not its own 8.3 short form the path message under

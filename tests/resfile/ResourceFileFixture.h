@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "screen/ScreenFiles.h"
 #include "screen/ScreenFixture.h"
 #include "resfile/FakeRecordObjects.h"
 
@@ -48,6 +49,27 @@ protected:
         path = ::testing::TempDir() + "tolva_" + info->test_suite_name() + "_" + info->name();
     }
     void TearDown() override { std::remove(path.c_str()); }
+
+    // Loads the bytes as Open does, onto a cleared screen and a host with no
+    // messages yet; the load's answer.
+    bool Reload(const std::string& bytes) {
+        WriteBytes(path, bytes);
+        screen.ClearScreen();
+        host.ClearRecord();
+        screen.StartLoading();
+        const bool ok = LoadResourceFile(screen, path);
+        screen.StopLoading();
+        return ok;
+    }
+
+    // The text with the first `from` replaced by `to`; a `from` that is not
+    // there fails the test.
+    static std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+        const auto at = text.find(from);
+        EXPECT_NE(at, std::string::npos) << from;
+        if (at != std::string::npos) text.replace(at, from.size(), to);
+        return text;
+    }
 
     FakeRecordForm* AddForm(const std::string& name) {
         return static_cast<FakeRecordForm*>(

@@ -14,12 +14,12 @@ DrawElementList ctlKOMABitmap::GetDrawElements() const {
     const double s = PCTwipsToTolvaPixels();
     DrawElementList elements;
     for (int which : {1, 2}) {
-        const Picture& picture = which == 1 ? bitmap1_ : bitmap2_;
+        const ObjectPicture& picture = which == 1 ? bitmap1_ : bitmap2_;
         DrawElement image = ImageElement(
             which == 1 ? "imgBitmap1" : "imgBitmap2",
             {0, 0, picture.pixelWidth * s, picture.pixelHeight * s}, picture.file);
         image.imageDepth = picture.depth;
-        image.visible = picture.shown && !picture.file.empty();
+        image.visible = which == 1 && picture.loaded && !picture.file.empty();
         elements.push_back(image);
     }
     return elements;

@@ -9,10 +9,10 @@
 namespace tolva {
 
 bool ctlKOMABitmap::LoadBitmapPicture(int which, const std::string& path) {
-    Picture& picture = Of(which);
+    ObjectPicture& picture = Of(which);
     // 1. and 2. An empty path takes the picture away; the size stays.
     if (path.empty()) {
-        picture.shown = false;
+        picture.loaded = false;
         picture.pixelWidth = picture.pixelHeight = 0;
         return true;
     }
@@ -25,7 +25,7 @@ bool ctlKOMABitmap::LoadBitmapPicture(int which, const std::string& path) {
     if (size->width > 160 || size->height > 160) return false;
     // 5. Beside another picture it must have that picture's size, which is
     // the object's.
-    const Picture& other = Of(which == 1 ? 2 : 1);
+    const ObjectPicture& other = Of(which == 1 ? 2 : 1);
     if (!other.file.empty() && (size->width != KOMAWidth() || size->height != KOMAHeight())) {
         Message(LoadResString(msg::BitmapsSameSize), KOMAName());
         return false;
@@ -33,7 +33,7 @@ bool ctlKOMABitmap::LoadBitmapPicture(int which, const std::string& path) {
     // 6. The image takes the picture; only Bitmap 1 is shown.
     picture.pixelWidth = size->width;
     picture.pixelHeight = size->height;
-    picture.shown = which == 1;
+    picture.loaded = true;
     // 7. The owner sizes the object after the picture.
     RaiseResized(size->width, size->height);
     RaisePicChanged();

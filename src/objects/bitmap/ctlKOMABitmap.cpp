@@ -26,7 +26,7 @@ void ctlKOMABitmap::KOMABitmapStyle(int style) {
 
 bool ctlKOMABitmap::InRange(int value, int high, const char* what) {
     if (value >= 0 && value <= high) return true;
-    Message(std::string("Invalid ") + what + " value: " + IntToText(value), KOMAName());
+    Message(PicturePlaceRefusal(what, value), KOMAName());
     return false;
 }
 

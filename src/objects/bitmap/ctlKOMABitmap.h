@@ -4,6 +4,7 @@
 // picture loaded last. The screen shows Bitmap 1 only; Bitmap 2 goes to the
 // record.
 #include "document/KomaObject.h"
+#include "objects/PictureFiles.h"
 
 namespace tolva {
 
@@ -78,31 +79,18 @@ public:
     void MouseDown(int button, int shift, double x, double y) override;
 
 private:
-    struct Picture {
-        int x = 0;
-        int y = 0;
-        int width = 10;
-        int height = 10;
-        std::string file;
-        int depth = 4;
-        // What the screen shows: the loaded picture's size in pixels.
-        bool shown = false;
-        int pixelWidth = 0;
-        int pixelHeight = 0;
-    };
-
     // Loads the picture of bitmap 1 or 2 from the path; true when the path
     // may be stored (BitmapPictures.cpp).
     bool LoadBitmapPicture(int which, const std::string& path);
     void SetBitmapFile(int which, const std::string& path);
-    Picture& Of(int which) { return which == 1 ? bitmap1_ : bitmap2_; }
+    ObjectPicture& Of(int which) { return which == 1 ? bitmap1_ : bitmap2_; }
     // The four place setters share their test: the message names the
     // property, under the object's name.
     bool InRange(int value, int high, const char* what);
 
     std::string styleWord_ = "BITMAP_STYLE_0";
-    Picture bitmap1_;
-    Picture bitmap2_;
+    ObjectPicture bitmap1_;
+    ObjectPicture bitmap2_;
     std::string enableWord_ = "TRUE";
     std::string activeWord_ = "TRUE";
     std::string visibleWord_ = "TRUE";

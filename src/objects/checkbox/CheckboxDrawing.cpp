@@ -18,7 +18,7 @@ DrawElementList ctlKOMACheckbox::GetDrawElements() const {
     const double s = PCTwipsToTolvaPixels();
     DrawElementList elements = {back};
     for (int which : {1, 2}) {
-        const Picture& picture = which == 1 ? bitmap1_ : bitmap2_;
+        const ObjectPicture& picture = which == 1 ? bitmap1_ : bitmap2_;
         DrawElement image = ImageElement(which == 1 ? "imgCheckedBitmap" : "imgUncheckedBitmap",
                                          {0, 0, picture.pixelWidth * s, picture.pixelHeight * s},
                                          picture.file);

@@ -8,7 +8,7 @@
 namespace tolva {
 
 bool ctlKOMACheckbox::LoadCheckboxPicture(int which, const std::string& path) {
-    Picture& picture = Of(which);
+    ObjectPicture& picture = Of(which);
     // 2. An empty path takes the picture away.
     if (path.empty()) {
         picture.loaded = false;
@@ -24,7 +24,7 @@ bool ctlKOMACheckbox::LoadCheckboxPicture(int which, const std::string& path) {
         return false;
     }
     // 4. Beside another picture it must have the object's size.
-    const Picture& other = Of(which == 1 ? 2 : 1);
+    const ObjectPicture& other = Of(which == 1 ? 2 : 1);
     if (!other.file.empty() && (size->width != KOMAWidth() || size->height != KOMAHeight())) {
         Message(LoadResString(msg::BitmapsSameSize), KOMAName());
         return false;

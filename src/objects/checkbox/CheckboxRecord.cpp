@@ -1,40 +1,13 @@
 // The Checkbox's record: the control head without a comment above its style
 // word, the tail with its group, value and the two picture sections under
 // the very same keys, and a loaded record applied.
-#include "document/Host.h"
 #include "document/Numbers.h"
 #include "document/RuntimeFailure.h"
-#include "document/TextHelpers.h"
 #include "document/Words.h"
-#include "objects/PictureFiles.h"
+#include "objects/ControlBitmapSection.h"
 #include "objects/checkbox/ctlKOMACheckbox.h"
 
 namespace tolva {
-
-namespace {
-
-constexpr const char* kFileKey = "(P)CONTROL_BITMAP.FILE=";
-
-// One picture's section: its place, size and file line; a picture left out
-// is written with the "left blank" comment and form.bmp.
-void AppendSection(LineList& lines, Host& host, int x, int y, int width, int height,
-                   const std::string& file, int depth) {
-    lines.push_back("//0 - 159");
-    lines.push_back("(SH)CONTROL_BITMAP.X=" + IntToText(x));
-    lines.push_back("(SH)CONTROL_BITMAP.Y=" + IntToText(y));
-    lines.push_back("//0 - 160");
-    lines.push_back("(SH)CONTROL_BITMAP.WIDTH=" + IntToText(width));
-    lines.push_back("(SH)CONTROL_BITMAP.HEIGHT=" + IntToText(height));
-    if (TrimSpaces(file).empty()) {
-        lines.push_back(kNoBitmapComment);
-        lines.push_back(std::string(kFileKey) + (depth == 2 ? "Q_TWO_BIT," : "Q_FOUR_BIT,") +
-                        "form.bmp");
-    } else {
-        AppendPictureFileLine(lines, host, kFileKey, depth, file);
-    }
-}
-
-}  // namespace
 
 void ctlKOMACheckbox::ReturnResourceFileText(LineList& lines, bool& ok) {
     AppendControlHead(lines, {"", "//CHECKBOX_STYLE_0,CHECKBOX_STYLE_1,CHECKBOX_STYLE_2, ..."});
@@ -44,11 +17,11 @@ void ctlKOMACheckbox::ReturnResourceFileText(LineList& lines, bool& ok) {
     // The comment speaks of ON and OFF; the value is TRUE or FALSE.
     lines.push_back("// ON or OFF");
     lines.push_back("(BO)CONTROL_ADD.CONTROL_VALUE=" + valueWord_);
-    AppendSection(lines, host(), bitmap1_.x, bitmap1_.y, bitmap1_.width, bitmap1_.height,
-                  bitmap1_.file, bitmap1_.depth);
+    AppendControlBitmapSection(lines, host(), bitmap1_.x, bitmap1_.y, bitmap1_.width,
+                               bitmap1_.height, bitmap1_.file, bitmap1_.depth);
     lines.push_back("~F9");
-    AppendSection(lines, host(), bitmap2_.x, bitmap2_.y, bitmap2_.width, bitmap2_.height,
-                  bitmap2_.file, bitmap2_.depth);
+    AppendControlBitmapSection(lines, host(), bitmap2_.x, bitmap2_.y, bitmap2_.width,
+                               bitmap2_.height, bitmap2_.file, bitmap2_.depth);
     lines.push_back("#END_CONTROL");
     ok = true;
 }

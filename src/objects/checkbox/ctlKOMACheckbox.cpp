@@ -47,7 +47,7 @@ void ctlKOMACheckbox::KOMAControlValue(int value) { valueWord_ = value != 0 ? "T
 // plain message included.
 bool ctlKOMACheckbox::InRange(int value, int high, const char* what) {
     if (value >= 0 && value <= high) return true;
-    Message(std::string("Invalid ") + what + " value: " + IntToText(value), KOMAName());
+    Message(PicturePlaceRefusal(what, value), KOMAName());
     return false;
 }
 

@@ -5,6 +5,7 @@
 // text and alignment go to the record only; the check boxes it is related
 // to are kept by its form.
 #include "objects/KomaControl.h"
+#include "objects/PictureFiles.h"
 
 namespace tolva {
 
@@ -77,30 +78,17 @@ protected:
     void ApplySubTypeWord(const std::string& word) override;
 
 private:
-    struct Picture {
-        int x = 0;
-        int y = 0;
-        int width = 10;
-        int height = 10;
-        std::string file;
-        int depth = 4;
-        // What the screen shows: the loaded picture's size in pixels.
-        bool loaded = false;
-        int pixelWidth = 0;
-        int pixelHeight = 0;
-    };
-
     // Loads the picture of bitmap 1 or 2; true when the path may be stored
     // (CheckboxPictures.cpp).
     bool LoadCheckboxPicture(int which, const std::string& path);
     void SetBitmapFile(int which, const std::string& path);
-    Picture& Of(int which) { return which == 1 ? bitmap1_ : bitmap2_; }
+    ObjectPicture& Of(int which) { return which == 1 ? bitmap1_ : bitmap2_; }
     bool InRange(int value, int high, const char* what);
 
     int groupId_ = 0;
     std::string valueWord_ = "FALSE";
-    Picture bitmap1_;
-    Picture bitmap2_;
+    ObjectPicture bitmap1_;
+    ObjectPicture bitmap2_;
 };
 
 }  // namespace tolva

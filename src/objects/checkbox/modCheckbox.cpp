@@ -1,7 +1,7 @@
 #include "objects/checkbox/modCheckbox.h"
 
 #include "document/Numbers.h"
-#include "objects/PictureFiles.h"
+#include "objects/ControlBitmapSection.h"
 #include "resfile/LoadedRecord.h"
 #include "resfile/RecordReader.h"
 
@@ -33,19 +33,10 @@ std::string CheckboxStyleNumberToWord(int number) {
 
 namespace {
 
-// One picture's section: place, size and the file line with its depth.
+// One picture's section, its depth as the group the applying wants.
 bool ReadSection(RecordReader& in, ValueGroup& values, ValueGroup& depth) {
-    for (const char* key : {"(SH)CONTROL_BITMAP.X=", "(SH)CONTROL_BITMAP.Y=",
-                            "(SH)CONTROL_BITMAP.WIDTH=", "(SH)CONTROL_BITMAP.HEIGHT="}) {
-        int value = 0;
-        if (!in.Int16Key(key, value)) return false;
-        values.push_back(IntToText(value));
-    }
-    const std::string line = in.Line();
     int bits = 0;
-    std::string path;
-    if (!ReadPictureFileLine(line, "(P)CONTROL_BITMAP.FILE=", bits, path)) return in.Fail(line);
-    values.push_back(path);
+    if (!ReadControlBitmapSection(in, values, bits)) return false;
     depth = {IntToText(bits)};
     return true;
 }

@@ -24,10 +24,10 @@ DrawElementList ctlKOMARepeatButton::GetDrawElements() const {
     const double s = PCTwipsToTolvaPixels();
     DrawElement image =
         ImageElement("imgBitmap",
-                     {kDesktopPixel, kDesktopPixel, pictureWidth_ * s, pictureHeight_ * s},
-                     bitmapFile_);
-    image.imageDepth = bitmapDepth_;
-    image.visible = pictureShown_ && !bitmapFile_.empty();
+                     {kDesktopPixel, kDesktopPixel, picture_.pixelWidth * s, picture_.pixelHeight * s},
+                     picture_.file);
+    image.imageDepth = picture_.depth;
+    image.visible = picture_.loaded && !picture_.file.empty();
     return {back, image};
 }
 

@@ -9,8 +9,8 @@ namespace tolva {
 bool ctlKOMARepeatButton::LoadPicture(const std::string& path) {
     // 1. An empty path takes the picture away; the size stays.
     if (path.empty()) {
-        pictureShown_ = false;
-        pictureWidth_ = pictureHeight_ = 0;
+        picture_.loaded = false;
+        picture_.pixelWidth = picture_.pixelHeight = 0;
         return true;
     }
     // The file must be there, pass the path rule and hold a picture; a
@@ -18,9 +18,9 @@ bool ctlKOMARepeatButton::LoadPicture(const std::string& path) {
     const std::optional<PictureSize> size = CheckedPicture(host(), path, "");
     if (!size) return false;
     // 2. and 3. Any size goes: no limit of the screen's, nothing to match.
-    pictureWidth_ = size->width;
-    pictureHeight_ = size->height;
-    pictureShown_ = true;
+    picture_.pixelWidth = size->width;
+    picture_.pixelHeight = size->height;
+    picture_.loaded = true;
     // 4. The owner sizes the object after the picture (a picture wider than
     // the screen then fails the width's range there).
     RaiseResized(size->width, size->height);

@@ -1,36 +1,18 @@
 // The Repeat button's record: the control head without a comment above its
 // style word, the tail with the picture's place, size and file, and a loaded
 // record applied.
-#include "document/Host.h"
 #include "document/Numbers.h"
 #include "document/RuntimeFailure.h"
-#include "document/TextHelpers.h"
-#include "objects/PictureFiles.h"
+#include "objects/ControlBitmapSection.h"
 #include "objects/repeatbutton/ctlKOMARepeatButton.h"
 
 namespace tolva {
 
-namespace {
-constexpr const char* kFileKey = "(P)CONTROL_BITMAP.FILE=";
-}
-
 void ctlKOMARepeatButton::ReturnResourceFileText(LineList& lines, bool& ok) {
     AppendControlHead(lines, {"", "//REPEATBUTTON_STYLE_0,REPEATBUTTON_STYLE_1,REPEATBUTTON_STYLE_2, ..."});
     lines.push_back("~F8");
-    lines.push_back("//0 - 159");
-    lines.push_back("(SH)CONTROL_BITMAP.X=" + IntToText(bitmapX_));
-    lines.push_back("(SH)CONTROL_BITMAP.Y=" + IntToText(bitmapY_));
-    lines.push_back("//0 - 160");
-    lines.push_back("(SH)CONTROL_BITMAP.WIDTH=" + IntToText(bitmapWidth_));
-    lines.push_back("(SH)CONTROL_BITMAP.HEIGHT=" + IntToText(bitmapHeight_));
-    if (TrimSpaces(bitmapFile_).empty()) {
-        // The comment says blank, and the default file goes out all the same.
-        lines.push_back(kNoBitmapComment);
-        lines.push_back(std::string(kFileKey) + (bitmapDepth_ == 2 ? "Q_TWO_BIT," : "Q_FOUR_BIT,") +
-                        "form.bmp");
-    } else {
-        AppendPictureFileLine(lines, host(), kFileKey, bitmapDepth_, bitmapFile_);
-    }
+    AppendControlBitmapSection(lines, host(), picture_.x, picture_.y, picture_.width, picture_.height,
+                               picture_.file, picture_.depth);
     lines.push_back("#END_CONTROL");
     ok = true;
 }

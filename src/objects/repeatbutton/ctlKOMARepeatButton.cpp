@@ -37,7 +37,7 @@ void ctlKOMARepeatButton::KOMABitmapX(int x) {
         Message("Invalid value", "KOMABitmapX");
         return;
     }
-    bitmapX_ = x;
+    picture_.x = x;
 }
 
 void ctlKOMARepeatButton::KOMABitmapY(int y) {
@@ -45,7 +45,7 @@ void ctlKOMARepeatButton::KOMABitmapY(int y) {
         Message("Invalid value", "KOMABitmapY");
         return;
     }
-    bitmapY_ = y;
+    picture_.y = y;
 }
 
 // The size setters say so under the application's title, as the object's
@@ -55,7 +55,7 @@ void ctlKOMARepeatButton::KOMABitmapWidth(int width) {
         Message("Invalid value");
         return;
     }
-    bitmapWidth_ = width;
+    picture_.width = width;
 }
 
 void ctlKOMARepeatButton::KOMABitmapHeight(int height) {
@@ -63,15 +63,15 @@ void ctlKOMARepeatButton::KOMABitmapHeight(int height) {
         Message("Invalid value");
         return;
     }
-    bitmapHeight_ = height;
+    picture_.height = height;
 }
 
 void ctlKOMARepeatButton::KOMABitmapDepth(int depth) {
-    if (depth == 2 || depth == 4) bitmapDepth_ = depth;
+    if (depth == 2 || depth == 4) picture_.depth = depth;
 }
 
 void ctlKOMARepeatButton::KOMABitmapFile(const std::string& path) {
-    if (LoadPicture(path)) bitmapFile_ = path;
+    if (LoadPicture(path)) picture_.file = path;
 }
 
 // --- inspector rows ---------------------------------------------------------------------
@@ -86,7 +86,7 @@ void ctlKOMARepeatButton::GetPropertyList(PropertyArray& rows) {
     rows.SetRow(6, PropertyLabel(107), rowkind::Choice, KOMAActiveWord());
     rows.SetRow(7, PropertyLabel(108), rowkind::Choice, KOMAVisibleWord());
     rows.SetRow(8, PropertyLabel(1902), rowkind::Button, false);
-    rows.SetRow(9, PropertyLabel(123) + " 1", rowkind::Choice, DepthRowWord(bitmapDepth_));
+    rows.SetRow(9, PropertyLabel(123) + " 1", rowkind::Choice, DepthRowWord(picture_.depth));
 }
 
 bool ctlKOMARepeatButton::SetPropertyList(const PropertyArray& rows) {
@@ -113,15 +113,7 @@ void ctlKOMARepeatButton::AfterRowY() { KOMABitmapY(KOMABoundsY()); }
 bool ctlKOMARepeatButton::CopyModelFrom(const KomaObject& other) {
     const auto* button = dynamic_cast<const ctlKOMARepeatButton*>(&other);
     if (!button || !KomaControl::CopyModelFrom(other)) return false;
-    bitmapX_ = button->bitmapX_;
-    bitmapY_ = button->bitmapY_;
-    bitmapWidth_ = button->bitmapWidth_;
-    bitmapHeight_ = button->bitmapHeight_;
-    bitmapFile_ = button->bitmapFile_;
-    bitmapDepth_ = button->bitmapDepth_;
-    pictureShown_ = button->pictureShown_;
-    pictureWidth_ = button->pictureWidth_;
-    pictureHeight_ = button->pictureHeight_;
+    picture_ = button->picture_;
     return true;
 }
 

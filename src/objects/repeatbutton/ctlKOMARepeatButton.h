@@ -9,6 +9,7 @@
 // change it and when a record is read, but not when the object is dragged:
 // after a drag the record holds the old place until one of those happens.
 #include "objects/KomaControl.h"
+#include "objects/PictureFiles.h"
 
 namespace tolva {
 
@@ -25,20 +26,20 @@ public:
 
     // The picture's place (0 to 159) and size (0 to 160) as the record
     // holds them.
-    int KOMABitmapX() const { return bitmapX_; }
+    int KOMABitmapX() const { return picture_.x; }
     void KOMABitmapX(int x);
-    int KOMABitmapY() const { return bitmapY_; }
+    int KOMABitmapY() const { return picture_.y; }
     void KOMABitmapY(int y);
-    int KOMABitmapWidth() const { return bitmapWidth_; }
+    int KOMABitmapWidth() const { return picture_.width; }
     void KOMABitmapWidth(int width);
-    int KOMABitmapHeight() const { return bitmapHeight_; }
+    int KOMABitmapHeight() const { return picture_.height; }
     void KOMABitmapHeight(int height);
     // The picture file: stored only when its picture loads; the empty path
     // takes the picture away and leaves the size as it is.
-    const std::string& KOMABitmapFile() const { return bitmapFile_; }
+    const std::string& KOMABitmapFile() const { return picture_.file; }
     void KOMABitmapFile(const std::string& path);
     // Bits per pixel, 2 or 4; another number changes nothing.
-    int KOMABitmapDepth() const { return bitmapDepth_; }
+    int KOMABitmapDepth() const { return picture_.depth; }
     void KOMABitmapDepth(int depth);
 
     // The popup menu's actions (RepeatButtonPicture.cpp).
@@ -69,16 +70,7 @@ private:
     // (RepeatButtonPicture.cpp).
     bool LoadPicture(const std::string& path);
 
-    int bitmapX_ = 0;
-    int bitmapY_ = 0;
-    int bitmapWidth_ = 10;
-    int bitmapHeight_ = 10;
-    std::string bitmapFile_;
-    int bitmapDepth_ = 4;
-    // What the screen shows: the loaded picture's size in pixels.
-    bool pictureShown_ = false;
-    int pictureWidth_ = 0;
-    int pictureHeight_ = 0;
+    ObjectPicture picture_;
 };
 
 }  // namespace tolva

@@ -1,6 +1,6 @@
 #include "objects/repeatbutton/modRepeatbutton.h"
 
-#include "document/Numbers.h"
+#include "objects/ControlBitmapSection.h"
 #include "objects/PictureFiles.h"
 #include "resfile/LoadedRecord.h"
 #include "resfile/RecordReader.h"
@@ -30,18 +30,9 @@ std::string RepeatButtonStyleNumberToWord(int number) {
 bool ParseRepeatButtonRecordTail(RecordReader& in, LoadedRecord& record) {
     if (!in.Word("~F8")) return false;
     ValueGroup picture;
-    for (const char* key : {"(SH)CONTROL_BITMAP.X=", "(SH)CONTROL_BITMAP.Y=",
-                            "(SH)CONTROL_BITMAP.WIDTH=", "(SH)CONTROL_BITMAP.HEIGHT="}) {
-        int value = 0;
-        if (!in.Int16Key(key, value)) return false;
-        picture.push_back(IntToText(value));
-    }
     // The depth is read to know the line, and then has nowhere to go.
-    const std::string line = in.Line();
     int depth = 0;
-    std::string path;
-    if (!ReadPictureFileLine(line, "(P)CONTROL_BITMAP.FILE=", depth, path)) return in.Fail(line);
-    picture.push_back(path);
+    if (!ReadControlBitmapSection(in, picture, depth)) return false;
     if (!in.Word("#END_CONTROL")) return false;
     record.groups.resize(7);
     record.groups[6] = std::move(picture);

@@ -273,23 +273,6 @@ protected:
         screen.NotifyObjectOfPropertyChange(type::Button, button->KOMAName(), rows);
         return button;
     }
-
-    bool Reload(const std::string& text) {
-        WriteBytes(path, text);
-        screen.ClearScreen();
-        host.ClearRecord();
-        screen.StartLoading();
-        const bool ok = LoadResourceFile(screen, path);
-        screen.StopLoading();
-        return ok;
-    }
-
-    static std::string Replaced(std::string text, const std::string& from, const std::string& to) {
-        const auto at = text.find(from);
-        EXPECT_NE(at, std::string::npos) << from;
-        if (at != std::string::npos) text.replace(at, from.size(), to);
-        return text;
-    }
 };
 
 TEST_F(ButtonRecordTest, TheWorkedExampleDrawnByHandIsSavedByteForByte) {

@@ -521,28 +521,11 @@ TEST_F(PushButtonTest, CopyTakesTheWholeModel) {
 
 // --- a whole file ---------------------------------------------------------------------------
 
-class PushButtonFile : public ResourceFileTest {
-protected:
-    bool Load(const std::string& text) {
-        WriteBytes(path, text);
-        screen.ClearScreen();
-        host.ClearRecord();
-        screen.StartLoading();
-        const bool ok = LoadResourceFile(screen, path);
-        screen.StopLoading();
-        return ok;
-    }
-    static std::string Replaced(std::string text, const std::string& from, const std::string& to) {
-        const auto at = text.find(from);
-        EXPECT_NE(at, std::string::npos) << from;
-        if (at != std::string::npos) text.replace(at, from.size(), to);
-        return text;
-    }
-};
+using PushButtonFile = ResourceFileTest;
 
 TEST_F(PushButtonFile, AGroupOfThreeLoadsAsZeroAndIsSavedAsZero) {
     const std::string full = Golden("pushbutton_full.txt");
-    ASSERT_TRUE(Load(Replaced(full, "(U)CONTROL_ADD.GROUP_ID=0", "(U)CONTROL_ADD.GROUP_ID=3")));
+    ASSERT_TRUE(Reload(Replaced(full, "(U)CONTROL_ADD.GROUP_ID=0", "(U)CONTROL_ADD.GROUP_ID=3")));
     auto* button = static_cast<ctlKOMAPushButton*>(Obj(type::PushButton, 1));
     ASSERT_NE(button, nullptr);
     PropertyArray rows;
@@ -557,7 +540,7 @@ TEST_F(PushButtonFile, AGroupOfThreeLoadsAsZeroAndIsSavedAsZero) {
 }
 
 TEST_F(PushButtonFile, ABrokenTailIsToldAndTheLoadEnds) {
-    EXPECT_FALSE(Load(Replaced(Golden("pushbutton_full.txt"), "(SH)CONTROL_ADD.RADIUS=5",
+    EXPECT_FALSE(Reload(Replaced(Golden("pushbutton_full.txt"), "(SH)CONTROL_ADD.RADIUS=5",
                                "(SH)CONTROL_ADD.RADIUS_5")));
     EXPECT_EQ(host.MessageLines(),
               (std::vector<std::string>{

@@ -178,15 +178,6 @@ TEST_F(StringTest, ColoursOfTextAndBackgroundAndTheLabelsOwnGrey) {
 
 class StringRecordTest : public ResourceFileTest {
 protected:
-    bool Reload(const std::string& bytes) {
-        WriteBytes(path, bytes);
-        screen.ClearScreen();
-        host.ClearRecord();
-        screen.StartLoading();
-        const bool ok = LoadResourceFile(screen, path);
-        screen.StopLoading();
-        return ok;
-    }
     ctlKOMAString* First() { return static_cast<ctlKOMAString*>(Obj(type::String, 1)); }
 };
 
