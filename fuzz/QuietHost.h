@@ -38,6 +38,7 @@ public:
         return {};
     }
     void SetCursor(CursorShape) override {}
+    bool RunDialog(DialogModel&) override { return false; }
     void OpenInViewer(const std::string&) override {}
     void OpenMail(const std::string&, const std::string&) override {}
     bool FileExists(const std::string& path) override {

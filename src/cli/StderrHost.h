@@ -2,7 +2,7 @@
 // The host of the command-line companion: every message box becomes one
 // line "TITLE: TEXT" on the error stream and is answered with its first
 // button; files are the real file system, relative names taken from the
-// current directory; no setting is kept, no chooser or menu is ever answered.
+// current directory; no setting is kept, no chooser, menu or dialog is ever answered.
 #include <ostream>
 #include <string>
 
@@ -33,6 +33,8 @@ public:
         return std::nullopt;
     }
     void SetCursor(CursorShape) override {}
+    // The command line shows no dialog: each is cancelled.
+    bool RunDialog(DialogModel&) override { return false; }
     void OpenInViewer(const std::string&) override {}
     void OpenMail(const std::string&, const std::string&) override {}
     bool FileExists(const std::string& path) override;

@@ -9,6 +9,8 @@
 
 namespace tolva {
 
+class DialogModel;
+
 // The application's title, shown by a message box whose title is empty.
 inline constexpr const char* kApplicationTitle = "Tolva Resource Editor";
 
@@ -71,6 +73,10 @@ public:
                                          const std::vector<PopupEntry>& entries) = 0;
 
     virtual void SetCursor(CursorShape shape) = 0;
+
+    // Runs the dialog the model names, modally, on the model; true when it
+    // was closed with OK. A host with no such dialog answers false at once.
+    virtual bool RunDialog(DialogModel& model) = 0;
 
     // Opens a saved file in the desktop's viewer for text.
     virtual void OpenInViewer(const std::string& path) = 0;

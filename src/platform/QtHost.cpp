@@ -12,7 +12,9 @@
 #include <QUrl>
 
 #include "canvas/BmpPicture.h"
+#include "document/DialogModel.h"
 #include "platform/Cp1252.h"
+#include "platform/DialogRegistry.h"
 #include "platform/FileFilter.h"
 
 namespace tolva {
@@ -124,6 +126,11 @@ std::optional<int> QtHost::PopupMenu(const std::string& title,
     QAction* chosen = menu.exec(QCursor::pos());
     if (!chosen) return std::nullopt;
     return chosen->data().toInt();
+}
+
+bool QtHost::RunDialog(DialogModel& model) {
+    const DialogRunner* runner = FindDialog(model.DialogName());
+    return runner && (*runner)(model, DialogParent());
 }
 
 void QtHost::SetCursor(CursorShape shape) {

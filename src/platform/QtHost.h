@@ -36,6 +36,8 @@ public:
     std::optional<int> PopupMenu(const std::string& title,
                                  const std::vector<PopupEntry>& entries) override;
     void SetCursor(CursorShape shape) override;
+    // Runs the dialog registered under the model's name (DialogRegistry.h).
+    bool RunDialog(DialogModel& model) override;
     void OpenInViewer(const std::string& path) override;
     void OpenMail(const std::string& address, const std::string& workingDirectory) override;
     bool FileExists(const std::string& path) override;

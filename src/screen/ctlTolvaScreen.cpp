@@ -205,8 +205,12 @@ bool ctlTolvaScreen::NotifyObjectOfPropertyChange(int screenType, const std::str
     if (!applied)
         host_.MessageBox("Could not change object properties", "NotifyObjectOfPropertyChange");
 
-    if (screenType != type::Form && object->KOMAName() != name && object->ParentForm())
+    if (screenType != type::Form && object->KOMAName() != name && object->ParentForm()) {
         object->ParentForm()->NotifyEmbeddedObjectNameChanged(name, object->KOMAName());
+        // A check box's relations are kept by name on its form.
+        if (screenType == type::Checkbox)
+            object->ParentForm()->CheckboxRenamed(name, object->KOMAName());
+    }
 
     if (screenMode_ != ModeLoading && events_)
         events_->ChangedObject(object->KOMAName(), screenType);

@@ -18,6 +18,7 @@
 #include "canvas/qt/CanvasWidget.h"
 #include "platform/QtHost.h"
 #include "shell/FilePaths.h"
+#include "shell/ObjectDialogs.h"
 #include "shell/RunGuarded.h"
 #include "shell/frmMain.h"
 
@@ -93,6 +94,7 @@ std::unique_ptr<frmMain> StartUp(Host& host, bool show) {
 int SubMain(int argc, char** argv) {
     GuardedApplication app(argc, argv);
     QtHost host;
+    RegisterObjectDialogs();
     SetGuardHost(&host);
     std::unique_ptr<frmMain> window;
     RunGuarded([&] { window = StartUp(host); });

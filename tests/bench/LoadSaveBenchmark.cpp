@@ -65,6 +65,7 @@ public:
         return {};
     }
     void SetCursor(tolva::CursorShape) override {}
+    bool RunDialog(tolva::DialogModel&) override { return false; }
     void OpenInViewer(const std::string&) override {}
     void OpenMail(const std::string&, const std::string&) override {}
     bool FileExists(const std::string& path) override { return std::filesystem::exists(path); }

@@ -24,6 +24,7 @@ void ScriptedHost::ClearRecord() {
     cursors.clear();
     popups.clear();
     popupNames.clear();
+    dialogs.clear();
 }
 
 MessageAnswer ScriptedHost::MessageBox(const std::string& text, const std::string& title,
@@ -87,6 +88,14 @@ std::optional<int> ScriptedHost::PopupMenu(const std::string& title,
 }
 
 void ScriptedHost::SetCursor(CursorShape shape) { cursors.push_back(shape); }
+
+bool ScriptedHost::RunDialog(DialogModel& model) {
+    dialogs.push_back(model.DialogName());
+    if (dialogAnswers.empty()) return false;
+    auto answer = std::move(dialogAnswers.front());
+    dialogAnswers.pop_front();
+    return answer(model);
+}
 void ScriptedHost::OpenInViewer(const std::string& path) { viewerOpened.push_back(path); }
 void ScriptedHost::OpenMail(const std::string& address, const std::string&) {
     mailOpened.push_back(address);

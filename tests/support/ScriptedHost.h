@@ -3,11 +3,13 @@
 // script: queued answers for message boxes, file choosers and popup menus,
 // a settings map, a set of existing files and picture sizes.
 #include <deque>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "document/DialogModel.h"
 #include "document/Host.h"
 #include "document/LogSink.h"
 
@@ -30,6 +32,9 @@ public:
     // queued a chooser is cancelled.
     std::deque<std::optional<std::string>> fileAnswers;
     std::deque<std::optional<int>> popupAnswers;
+    // What the next dialogs do: each works on the model and answers true for
+    // OK. With none queued a dialog is cancelled untouched.
+    std::deque<std::function<bool(DialogModel&)>> dialogAnswers;
     std::map<std::string, std::string> settings;  // "section/key" -> value
     std::map<std::string, PictureSize> pictures;  // path -> size
     std::vector<std::string> existingFiles;       // besides the real file system
@@ -47,6 +52,8 @@ public:
     std::vector<std::pair<std::string, std::vector<std::string>>> popups;
     // The entries' names of each popup menu, as the menu's items carry them.
     std::vector<std::vector<std::string>> popupNames;
+    // The names of the dialogs run, in order.
+    std::vector<std::string> dialogs;
 
     // The title the box showed: the given one, or the application's title.
     static std::string ShownTitle(const RecordedMessage& m);
@@ -67,6 +74,7 @@ public:
     std::optional<int> PopupMenu(const std::string& title,
                                  const std::vector<PopupEntry>& entries) override;
     void SetCursor(CursorShape shape) override;
+    bool RunDialog(DialogModel& model) override;
     void OpenInViewer(const std::string& path) override;
     void OpenMail(const std::string& address, const std::string& workingDirectory) override;
     bool FileExists(const std::string& path) override;

@@ -3,6 +3,7 @@
 // right press opens the popup menu of the pictures.
 #include "document/Host.h"
 #include "objects/checkbox/ctlKOMACheckbox.h"
+#include "objects/form/ctlKOMAForm.h"
 
 namespace tolva {
 
@@ -37,14 +38,17 @@ void ctlKOMACheckbox::MouseDown(int button, int shift, double x, double y) {
     }
     // The two Remove items are there and do nothing; the related check
     // boxes are edited with the form's editor.
-    const std::optional<int> choice =
-        host().PopupMenu("Set Properties", {{"mnuSetPropSetOnBitmap", "Set On Bitmap"},
-                                            {"mnuSetPropSetOffBitmap", "Set Off Bitmap"},
-                                            {"mnuSetPropRemoveOnBitmap", "Remove On Bitmap"},
-                                            {"mnuSetPropRemoveOffBitmap", "Remove Off bitmap"}});
+    const std::optional<int> choice = host().PopupMenu(
+        "Set Properties", {{"mnuSetPropSetOnBitmap", "Set On Bitmap"},
+                           {"mnuSetPropSetOffBitmap", "Set Off Bitmap"},
+                           {"mnuSetPropRemoveOnBitmap", "Remove On Bitmap"},
+                           {"mnuSetPropRemoveOffBitmap", "Remove Off bitmap"},
+                           {"mnuRelatedCheckboxes", "Set Related Checkboxes..."}});
     if (!choice) return;
     if (*choice == 0) SetBitmapFromChooser(1);
     if (*choice == 1) SetBitmapFromChooser(2);
+    // A check box in a table cell lies on no form: nothing to edit.
+    if (*choice == 4 && ParentForm()) ParentForm()->EditRelatedCheckboxes();
 }
 
 }  // namespace tolva

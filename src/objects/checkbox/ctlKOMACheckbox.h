@@ -4,6 +4,9 @@
 // pictures, which must be of one size and no larger than the screen. Its
 // text and alignment go to the record only; the check boxes it is related
 // to are kept by its form.
+#include <string>
+#include <vector>
+
 #include "objects/KomaControl.h"
 #include "objects/PictureFiles.h"
 
@@ -60,6 +63,16 @@ public:
     // The popup menu's choosers (CheckboxPictures.cpp).
     void SetBitmapFromChooser(int which);
 
+    // A copy of relations handed to the check box itself: the names and
+    // flags, kept as given. The form's table is the one that counts; the
+    // editor and the record never read this one.
+    void SetRelatedCheckboxes(const std::vector<bool>& related, const std::vector<std::string>& names) {
+        related_ = related;
+        relatedNames_ = names;
+    }
+    const std::vector<bool>& RelatedFlags() const { return related_; }
+    const std::vector<std::string>& RelatedNames() const { return relatedNames_; }
+
     // --- the contract --------------------------------------------------------------
     int PropertyRowCount() const override { return kRowCount; }
     void GetPropertyList(PropertyArray& rows) override;
@@ -89,6 +102,8 @@ private:
     std::string valueWord_ = "FALSE";
     ObjectPicture bitmap1_;
     ObjectPicture bitmap2_;
+    std::vector<bool> related_;
+    std::vector<std::string> relatedNames_;
 };
 
 }  // namespace tolva

@@ -19,6 +19,28 @@ void MoveLastInto(std::vector<T>& list, size_t i) {
     list.pop_back();
 }
 
+// A related table (lists, check boxes) stays square: a column for the new
+// member in every row, then the member's own row.
+template <typename Table>
+void AddSquareRow(Table& table, const std::string& name) {
+    for (auto& row : table) row.linked.push_back(false);
+    table.push_back({name, std::vector<bool>(table.size() + 1, false)});
+}
+
+// The last row moves into the hole of the named one, and in every row the
+// last flag moves into the hole's column. A name the table lacks changes
+// nothing.
+template <typename Table>
+void RemoveSquareRow(Table& table, const std::string& name) {
+    const auto hit = std::find_if(table.begin(), table.end(),
+                                  [&](const auto& row) { return row.name == name; });
+    if (hit == table.end()) return;
+    const size_t j = static_cast<size_t>(hit - table.begin());
+    MoveLastInto(table, j);
+    for (auto& row : table)
+        if (j < row.linked.size()) MoveLastInto(row.linked, j);
+}
+
 // The embedded list's word for a device kind: "CONTROL" for the control
 // family, the kind's own word for the others, empty for a form or a menu.
 std::string EmbeddedWordOfKind(int deviceKind) {
@@ -53,12 +75,8 @@ bool ctlKOMAForm::EmbedObject(int screenType, const std::string& name, KomaObjec
         Message("Tried to embed form in form", "EmbedObject");
         return false;
     }
-    if (screenType == type::List) {
-        // The related-lists table stays square: a column for the new list in
-        // every row, then its own row.
-        for (auto& row : relatedLists_) row.linked.push_back(false);
-        relatedLists_.push_back({name, std::vector<bool>(relatedLists_.size() + 1, false)});
-    }
+    if (screenType == type::List) AddSquareRow(relatedLists_, name);
+    if (screenType == type::Checkbox) AddSquareRow(relatedCheckboxes_, name);
     embedded_.push_back({name, EmbeddedTypeWord(screenType)});
     references_.push_back(object);
     return true;
@@ -86,16 +104,8 @@ bool ctlKOMAForm::NotifyObjectDeleted(const std::string& deletedName) {
     MoveLastInto(embedded_, static_cast<size_t>(hit - embedded_.begin()));
     if (KOMAFocusedObject() == name) focusedObject_.clear();
 
-    // The related lists: the last row moves into the hole, and in every row
-    // the last flag moves into the hole's column, so the table stays square.
-    const auto listRow = std::find_if(relatedLists_.begin(), relatedLists_.end(),
-                                      [&](const RelatedList& row) { return row.name == name; });
-    if (listRow != relatedLists_.end()) {
-        const size_t j = static_cast<size_t>(listRow - relatedLists_.begin());
-        MoveLastInto(relatedLists_, j);
-        for (auto& row : relatedLists_)
-            if (j < row.linked.size()) MoveLastInto(row.linked, j);
-    }
+    RemoveSquareRow(relatedLists_, name);
+    RemoveSquareRow(relatedCheckboxes_, name);
 
     // The reference, found by asking each object its name.
     const auto ref = std::find_if(references_.begin(), references_.end(), [&](KomaObject* object) {

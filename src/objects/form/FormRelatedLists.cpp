@@ -1,8 +1,10 @@
-// The related checkboxes and related lists of a form. The related-lists table
-// has one row per list of the form, each with one flag per list of the form
-// by position; a list's own position is skipped when the row is read or
-// written.
+// The related checkboxes and related lists of a form. Each table has one row
+// per check box (list) of the form, each with one flag per check box (list)
+// of the form by position; a list's own position is skipped when the row is
+// read or written.
+#include "document/Host.h"
 #include "document/ObjectOwner.h"
+#include "objects/checkbox/CheckboxRelations.h"
 #include "objects/form/ctlKOMAForm.h"
 
 namespace tolva {
@@ -13,6 +15,12 @@ void ctlKOMAForm::CheckboxRenamed(const std::string& oldName, const std::string&
             row.name = newName;
             return;
         }
+}
+
+void ctlKOMAForm::EditRelatedCheckboxes() {
+    CheckboxRelations relations;
+    relations.SetRelatedCheckboxes(relatedCheckboxes_);
+    if (host().RunDialog(relations)) SetRelatedCheckboxes(relations.RelatedCheckboxes());
 }
 
 bool ctlKOMAForm::GetRelatedListData(const std::string& listName, std::vector<std::string>& names,

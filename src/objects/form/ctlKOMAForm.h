@@ -96,13 +96,22 @@ public:
     void SetMenuIDs(int firstId);
 
     // --- related checkboxes and lists -------------------------------------------
+    // One row per check box of the form: its name and one flag per check
+    // box of the form by position, true where the two are related. It grows
+    // and shrinks with the check boxes embedded and deleted, like the
+    // related lists.
     struct RelatedCheckbox {
         std::string name;
-        std::string value;
+        std::vector<bool> linked;
     };
+    using RelatedCheckboxTable = std::vector<RelatedCheckbox>;
+    // The first row of the old name takes the new one.
     void CheckboxRenamed(const std::string& oldName, const std::string& newName);
-    void SetRelatedCheckboxes(const std::vector<RelatedCheckbox>& rows) { relatedCheckboxes_ = rows; }
-    const std::vector<RelatedCheckbox>& RelatedCheckboxes() const { return relatedCheckboxes_; }
+    // The table replaced, row by row, by one of the editor's shape.
+    void SetRelatedCheckboxes(const RelatedCheckboxTable& rows) { relatedCheckboxes_ = rows; }
+    const RelatedCheckboxTable& RelatedCheckboxes() const { return relatedCheckboxes_; }
+    // The Checkbox Editor on the table, modal; its OK writes the table back.
+    void EditRelatedCheckboxes();
 
     struct RelatedList {
         std::string name;
@@ -163,7 +172,7 @@ private:
     std::vector<EmbeddedRow> embedded_;
     std::vector<KomaObject*> references_;
     std::vector<MenuData> menus_;
-    std::vector<RelatedCheckbox> relatedCheckboxes_;
+    RelatedCheckboxTable relatedCheckboxes_;
     std::vector<RelatedList> relatedLists_;
 };
 

@@ -104,10 +104,11 @@ TEST_F(CheckboxTest, ThePopupMenuSetsBothPicturesAndItsRemoveItemsDoNothing) {
     EXPECT_EQ(box.KOMABitmap1File(), "ON.BMP");
     EXPECT_EQ(owner.host.popups.at(0).second,
               (std::vector<std::string>{"Set On Bitmap", "Set Off Bitmap", "Remove On Bitmap",
-                                        "Remove Off bitmap"}));
+                                        "Remove Off bitmap", "Set Related Checkboxes..."}));
     EXPECT_EQ(owner.host.popupNames.at(0),
               (std::vector<std::string>{"mnuSetPropSetOnBitmap", "mnuSetPropSetOffBitmap",
-                                        "mnuSetPropRemoveOnBitmap", "mnuSetPropRemoveOffBitmap"}));
+                                        "mnuSetPropRemoveOnBitmap", "mnuSetPropRemoveOffBitmap",
+                                        "mnuRelatedCheckboxes"}));
     owner.events.clear();
     owner.host.popupAnswers = {2};
     box.MouseDown(2, 0, 5, 5);

@@ -298,11 +298,13 @@ TEST_F(FormEmbedding, MenuWithoutItemsKeepsItsName) {
 // --- related checkboxes and lists ----------------------------------------------------------
 
 TEST_F(FormEmbedding, CheckboxRenamedChangesTheFirstRowOnly) {
-    form.SetRelatedCheckboxes({{"CHECKBOX_1", "a"}, {"CHECKBOX_2", "b"}, {"CHECKBOX_1", "c"}});
+    form.SetRelatedCheckboxes({{"CHECKBOX_1", {false, true, false}},
+                               {"CHECKBOX_2", {true, false, false}},
+                               {"CHECKBOX_1", {false, false, false}}});
     form.CheckboxRenamed("CHECKBOX_1", "CHECKBOX_RED");
     const auto& rows = form.RelatedCheckboxes();
     EXPECT_EQ(rows[0].name, "CHECKBOX_RED");
-    EXPECT_EQ(rows[0].value, "a");
+    EXPECT_EQ(rows[0].linked, (std::vector<bool>{false, true, false}));
     EXPECT_EQ(rows[1].name, "CHECKBOX_2");
     EXPECT_EQ(rows[2].name, "CHECKBOX_1");
 }
