@@ -16,41 +16,15 @@
 
 #include "platform/Cp1252.h"
 #include "platform/QtHost.h"
+#include "platform/DialogRegistry.h"
+#include "document/DialogModel.h"
+#include "platform/ModalDriver.h"
 
 namespace tolva {
 namespace {
 
-// Runs the check on the next modal window once it is up.
-void OnNextModal(std::function<void(QWidget*)> check) {
-    // The attempt holds itself only weakly; each pending timer holds it
-    // strongly, so it is freed once the check has run.
-    auto attempt = std::make_shared<std::function<void()>>();
-    std::weak_ptr<std::function<void()>> weak = attempt;
-    *attempt = [check, weak] {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (!modal) {
-            if (auto again = weak.lock()) QTimer::singleShot(10, [again] { (*again)(); });
-            return;
-        }
-        check(modal);
-    };
-    QTimer::singleShot(0, [attempt] { (*attempt)(); });
-}
-
-// Runs the check on the popup menu once it is up.
-void OnNextPopup(std::function<void(QMenu*)> check) {
-    auto attempt = std::make_shared<std::function<void()>>();
-    std::weak_ptr<std::function<void()>> weak = attempt;
-    *attempt = [check, weak] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        if (!menu) {
-            if (auto again = weak.lock()) QTimer::singleShot(10, [again] { (*again)(); });
-            return;
-        }
-        check(menu);
-    };
-    QTimer::singleShot(0, [attempt] { (*attempt)(); });
-}
+using testing::OnNextModal;
+using testing::OnNextPopup;
 
 TEST(QtHost, APopupMenuAndItsItemsCarryTheirNames) {
     QtHost host;
@@ -335,6 +309,34 @@ TEST(QtHost, WithoutCursorWidgetsTheParentTakesTheCursors) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     host.SetCursor(CursorShape::Arrow);
     EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
+}
+
+}  // namespace
+}  // namespace tolva
+
+namespace tolva {
+namespace {
+
+struct NamedModel : DialogModel {
+    std::string name;
+    std::string DialogName() const override { return name; }
+};
+
+TEST(QtHost, ADialogRunsByItsNameAndAnUnknownOneIsCancelled) {
+    QtHost host;
+    NamedModel model;
+    model.name = "frmNoSuchDialog";
+    EXPECT_FALSE(host.RunDialog(model));
+    // The registry outlives the test: the count it keeps is static.
+    static int runs = 0;
+    runs = 0;
+    RegisterDialog("frmHostTestDialog", [](DialogModel& m, QWidget*) {
+        ++runs;
+        return m.DialogName() == "frmHostTestDialog";
+    });
+    model.name = "frmHostTestDialog";
+    EXPECT_TRUE(host.RunDialog(model));
+    EXPECT_EQ(runs, 1);
 }
 
 }  // namespace
