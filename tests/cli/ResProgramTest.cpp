@@ -353,3 +353,99 @@ TEST_F(PushButtonResave, AFullRecordGoesThroughByteForByte) {
 
 }  // namespace
 }  // namespace tolva::testing
+
+namespace tolva::testing {
+namespace {
+
+// A Checkbox with both pictures, checked, with every field a load keeps
+// away from its default. The places and sizes of its pictures and its group
+// are those a load leaves: a load reads them and keeps the defaults.
+class CheckboxResave : public ResProgram {
+protected:
+    void WritePictures() {
+        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+        WriteFile(dir / "ON.BMP", BmpBytes(12, 10));
+        WriteFile(dir / "OFF.BMP", BmpBytes(12, 10));
+    }
+    static std::string FullWith(const std::string& from, const std::string& to) {
+        std::string text = Golden("checkbox_full.txt");
+        const auto at = text.find(from);
+        EXPECT_NE(at, std::string::npos) << from;
+        text.replace(at, from.size(), to);
+        return text;
+    }
+};
+
+TEST_F(CheckboxResave, AFullRecordGoesThroughByteForByte) {
+    WriteFile(dir / "in.txt", Golden("checkbox_full.txt"));
+    WritePictures();
+    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("checkbox_full.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("checkbox_full.h"));
+}
+
+TEST_F(CheckboxResave, AGroupOfFiveComesBackOutAsZero) {
+    WriteFile(dir / "in.txt", FullWith("(U)CONTROL_ADD.GROUP_ID=0", "(U)CONTROL_ADD.GROUP_ID=5"));
+    WritePictures();
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("checkbox_full.txt"));
+}
+
+TEST_F(CheckboxResave, ThePlacesAndSizesOfThePicturesAreReadAndLeftAtTheirDefaults) {
+    std::string text = FullWith("(SH)CONTROL_BITMAP.X=0", "(SH)CONTROL_BITMAP.X=20");
+    const auto at = text.find("(SH)CONTROL_BITMAP.HEIGHT=10", text.find("~F9"));
+    text.replace(at, 28, "(SH)CONTROL_BITMAP.HEIGHT=12");
+    WriteFile(dir / "in.txt", text);
+    WritePictures();
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("checkbox_full.txt"));
+}
+
+TEST_F(CheckboxResave, AMissingPictureIsToldUnderTheCheckboxsNameAndWrittenLeftBlank) {
+    WriteFile(dir / "in.txt", Golden("checkbox_full.txt"));
+    WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+    WriteFile(dir / "ON.BMP", BmpBytes(12, 10));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(err, "AGREE: Bitmap not found\n");
+    EXPECT_EQ(ReadFile(dir / "out.txt"),
+              FullWith("(P)CONTROL_BITMAP.FILE=Q_FOUR_BIT,OFF.BMP\r\n",
+                       "//You did not specify a bitmap so this section has been left blank\r\n"
+                       "(P)CONTROL_BITMAP.FILE=Q_FOUR_BIT,form.bmp\r\n"));
+}
+
+TEST_F(CheckboxResave, PicturesOfTwoSizesAreToldAndTheSecondIsNotKept) {
+    WriteFile(dir / "in.txt", Golden("checkbox_full.txt"));
+    WritePictures();
+    WriteFile(dir / "OFF.BMP", BmpBytes(14, 10));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(err, "AGREE: Both bitmaps must be the same size.\n");
+    EXPECT_NE(ReadFile(dir / "out.txt").find("left blank\r\n(P)CONTROL_BITMAP.FILE=Q_FOUR_BIT,form.bmp\r\n#END_CONTROL"),
+              std::string::npos);
+}
+
+TEST_F(CheckboxResave, ALineOutOfOrderInTheTailEndsTheRecordAndTheLoad) {
+    // A picture's place where the group stands.
+    WriteFile(dir / "in.txt", FullWith("(U)CONTROL_ADD.GROUP_ID=0", "(SH)CONTROL_BITMAP.X=0"));
+    WritePictures();
+    EXPECT_EQ(Run("check in.txt"), 1);
+    // The closing word that follows is then read as a line between records.
+    EXPECT_EQ(err,
+              "Tolva Resource Editor: Error on line 78:  (SH)CONTROL_BITMAP.X=0\n"
+              "Load Error: Could not load checkbox object\n"
+              "Load Error: Invalid/unsupported resource object\n"
+              "Tolva Resource Editor: Could not load resource file\n");
+}
+
+TEST_F(CheckboxResave, AFileLineWithAnotherDepthFailsTheRecord) {
+    WriteFile(dir / "in.txt", FullWith("Q_FOUR_BIT,OFF.BMP", "Q_ONE_BIT,OFF.BMP"));
+    WritePictures();
+    EXPECT_EQ(Run("check in.txt"), 1);
+    EXPECT_EQ(err.rfind("Tolva Resource Editor: Error on line 95:  (P)CONTROL_BITMAP.FILE=Q_ONE_BIT,OFF.BMP\n"
+                        "Load Error: Could not load checkbox object\n", 0),
+              0u)
+        << err;
+}
+
+}  // namespace
+}  // namespace tolva::testing
