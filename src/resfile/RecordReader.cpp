@@ -25,15 +25,22 @@ bool RecordReader::Fail(const std::string& line) {
 }
 
 bool RecordReader::Word(const char* word) {
-    const std::string line = Line();
-    return line == word ? true : Fail(line);
+    const std::string_view line = reader_.ReadResourceView();
+    return line == word ? true : Fail(std::string(line));
 }
 
 bool RecordReader::KeyIn(const std::string& line, const char* key, std::string& value) {
     return LineHasKey(line, key, value) ? true : Fail(line);
 }
 
-bool RecordReader::Key(const char* key, std::string& value) { return KeyIn(Line(), key, value); }
+bool RecordReader::Key(const char* key, std::string& value) {
+    // Matched on the view: only the value is copied out of the text.
+    const std::string_view line = reader_.ReadResourceView();
+    const std::size_t length = std::strlen(key);
+    if (line.substr(0, length) != key) return Fail(std::string(line));
+    value.assign(line.substr(length));
+    return true;
+}
 
 bool RecordReader::Int16Key(const char* key, int& value) {
     std::string text;

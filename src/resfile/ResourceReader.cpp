@@ -38,39 +38,43 @@ ResourceReader ResourceReader::FromText(std::string text) {
     return reader;
 }
 
-std::string ResourceReader::ReadPhysicalLine() {
+std::string_view ResourceReader::ReadPhysicalView() {
     if (!open_ || AtEnd()) throw RuntimeFailure("Input past end of file");
-    const std::size_t cr = text_.find('\r', pos_);
-    std::string line;
-    if (cr == std::string::npos) {
-        line = text_.substr(pos_);
-        pos_ = text_.size();
+    const std::string_view text(text_);
+    const std::size_t cr = text.find('\r', pos_);
+    std::string_view line;
+    if (cr == std::string_view::npos) {
+        line = text.substr(pos_);
+        pos_ = text.size();
     } else {
-        line = text_.substr(pos_, cr - pos_);
+        line = text.substr(pos_, cr - pos_);
         pos_ = cr + 1;
-        if (pos_ < text_.size() && text_[pos_] == '\n') ++pos_;
+        if (pos_ < text.size() && text[pos_] == '\n') ++pos_;
     }
     ++counter_;
     return line;
 }
 
-std::string ResourceReader::ReadResourceLine() {
-    std::string line = ReadPhysicalLine();
+std::string ResourceReader::ReadPhysicalLine() { return std::string(ReadPhysicalView()); }
+
+std::string_view ResourceReader::ReadResourceView() {
+    std::string_view line = ReadPhysicalView();
     // A comment begins in the first column; a blank before the slashes makes
     // it an ordinary line, cut below to nothing.
-    while (line.compare(0, 2, "//") == 0) line = ReadPhysicalLine();
+    while (line.substr(0, 2) == "//") line = ReadPhysicalView();
     // The rest of a longer line after "//" is a comment too; then the
     // blanks at both ends go.
     std::size_t end = line.size();
     if (end >= 3) {
         const std::size_t slashes = line.find("//");
-        if (slashes != std::string::npos) end = slashes;
+        if (slashes != std::string_view::npos) end = slashes;
     }
     std::size_t begin = 0;
     while (begin < end && line[begin] == ' ') ++begin;
     while (end > begin && line[end - 1] == ' ') --end;
-    if (begin == 0 && end == line.size()) return line;
     return line.substr(begin, end - begin);
 }
+
+std::string ResourceReader::ReadResourceLine() { return std::string(ReadResourceView()); }
 
 }  // namespace tolva

@@ -7,6 +7,7 @@
 // Reading past the end of the text is a run-time failure: it ends a load
 // without a message, as a bad number does.
 #include <string>
+#include <string_view>
 
 namespace tolva {
 
@@ -38,8 +39,13 @@ public:
     // "//") are skipped, the text from the first "//" on is dropped, and the
     // rest is trimmed of blanks. There is no quoting: "a//b" reads as "a".
     std::string ReadResourceLine();
+    // The same line as a view into the text, valid until the next read or
+    // Close: the parsers match most lines without copying them.
+    std::string_view ReadResourceView();
 
 private:
+    std::string_view ReadPhysicalView();
+
     ResourceReader() = default;
     std::string text_;
     std::size_t pos_ = 0;
