@@ -9,7 +9,7 @@
 
 namespace tolva {
 
-ctlKOMABitmap::ctlKOMABitmap() : KomaObject(type::Bitmap, "BITMAP", 33, 33) {
+ctlKOMABitmap::ctlKOMABitmap() : TwoPictures(type::Bitmap, "BITMAP", 33, 33) {
     ResizeOK(false);
     VertResizeOK(false);
     HorizResizeOK(false);
@@ -22,49 +22,6 @@ int ctlKOMABitmap::KOMABitmapStyle() const { return BitmapStyleWordToNumber(styl
 void ctlKOMABitmap::KOMABitmapStyle(int style) {
     const std::string word = BitmapStyleNumberToWord(style);
     if (!word.empty()) styleWord_ = word;
-}
-
-bool ctlKOMABitmap::InRange(int value, int high, const char* what) {
-    if (value >= 0 && value <= high) return true;
-    Message(PicturePlaceRefusal(what, value), KOMAName());
-    return false;
-}
-
-void ctlKOMABitmap::KOMABitmap1X(int x) {
-    if (InRange(x, 159, "Bitmap1X")) bitmap1_.x = x;
-}
-void ctlKOMABitmap::KOMABitmap1Y(int y) {
-    if (InRange(y, 159, "Bitmap1Y")) bitmap1_.y = y;
-}
-void ctlKOMABitmap::KOMABitmap2X(int x) {
-    if (InRange(x, 159, "Bitmap2X")) bitmap2_.x = x;
-}
-void ctlKOMABitmap::KOMABitmap2Y(int y) {
-    if (InRange(y, 159, "Bitmap2Y")) bitmap2_.y = y;
-}
-void ctlKOMABitmap::KOMABitmap1Width(int width) {
-    if (InRange(width, 160, "Bitmap1Width")) bitmap1_.width = width;
-}
-void ctlKOMABitmap::KOMABitmap1Height(int height) {
-    if (InRange(height, 160, "Bitmap1Height")) bitmap1_.height = height;
-}
-void ctlKOMABitmap::KOMABitmap2Width(int width) {
-    if (InRange(width, 160, "Bitmap2Width")) bitmap2_.width = width;
-}
-void ctlKOMABitmap::KOMABitmap2Height(int height) {
-    // Unlike its three fellows: a plain message under the default title.
-    if (height < 0 || height > 160) {
-        Message("Invalid value");
-        return;
-    }
-    bitmap2_.height = height;
-}
-
-void ctlKOMABitmap::KOMABitmap1Depth(int depth) {
-    if (depth == 2 || depth == 4) bitmap1_.depth = depth;
-}
-void ctlKOMABitmap::KOMABitmap2Depth(int depth) {
-    if (depth == 2 || depth == 4) bitmap2_.depth = depth;
 }
 
 void ctlKOMABitmap::KOMABitmap1File(const std::string& path) { SetBitmapFile(1, path); }

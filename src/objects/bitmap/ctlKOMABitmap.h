@@ -5,10 +5,11 @@
 // record.
 #include "document/KomaObject.h"
 #include "objects/PictureFiles.h"
+#include "objects/TwoPictures.h"
 
 namespace tolva {
 
-class ctlKOMABitmap : public KomaObject {
+class ctlKOMABitmap : public TwoPictures<KomaObject> {
 public:
     static constexpr int kRowCount = 11;
 
@@ -19,24 +20,6 @@ public:
     void KOMABitmapStyle(int style);
     const std::string& KOMABitmapStyleWord() const { return styleWord_; }
 
-    // Places and sizes of the two pictures as the record holds them: X and
-    // Y 0 to 159, width and height 0 to 160.
-    int KOMABitmap1X() const { return bitmap1_.x; }
-    void KOMABitmap1X(int x);
-    int KOMABitmap1Y() const { return bitmap1_.y; }
-    void KOMABitmap1Y(int y);
-    int KOMABitmap1Width() const { return bitmap1_.width; }
-    void KOMABitmap1Width(int width);
-    int KOMABitmap1Height() const { return bitmap1_.height; }
-    void KOMABitmap1Height(int height);
-    int KOMABitmap2X() const { return bitmap2_.x; }
-    void KOMABitmap2X(int x);
-    int KOMABitmap2Y() const { return bitmap2_.y; }
-    void KOMABitmap2Y(int y);
-    int KOMABitmap2Width() const { return bitmap2_.width; }
-    void KOMABitmap2Width(int width);
-    int KOMABitmap2Height() const { return bitmap2_.height; }
-    void KOMABitmap2Height(int height);
 
     // The picture files: stored only when the picture loads (see
     // LoadBitmapPicture); the empty path takes the picture away.
@@ -45,11 +28,6 @@ public:
     const std::string& KOMABitmap2File() const { return bitmap2_.file; }
     void KOMABitmap2File(const std::string& path);
 
-    // Bits per pixel, 2 or 4; another number changes nothing.
-    int KOMABitmap1Depth() const { return bitmap1_.depth; }
-    void KOMABitmap1Depth(int depth);
-    int KOMABitmap2Depth() const { return bitmap2_.depth; }
-    void KOMABitmap2Depth(int depth);
 
     bool KOMAEnable() const { return enableWord_ == "TRUE"; }
     void KOMAEnable(bool value) { enableWord_ = value ? "TRUE" : "FALSE"; }
@@ -83,14 +61,10 @@ private:
     // may be stored (BitmapPictures.cpp).
     bool LoadBitmapPicture(int which, const std::string& path);
     void SetBitmapFile(int which, const std::string& path);
-    ObjectPicture& Of(int which) { return which == 1 ? bitmap1_ : bitmap2_; }
     // The four place setters share their test: the message names the
     // property, under the object's name.
-    bool InRange(int value, int high, const char* what);
 
     std::string styleWord_ = "BITMAP_STYLE_0";
-    ObjectPicture bitmap1_;
-    ObjectPicture bitmap2_;
     std::string enableWord_ = "TRUE";
     std::string activeWord_ = "TRUE";
     std::string visibleWord_ = "TRUE";

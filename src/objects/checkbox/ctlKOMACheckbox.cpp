@@ -10,7 +10,7 @@
 namespace tolva {
 
 ctlKOMACheckbox::ctlKOMACheckbox()
-    : KomaControl(type::Checkbox, controlstyle::Checkbox, "CHECKBOX", 14, 14) {
+    : TwoPictures(type::Checkbox, controlstyle::Checkbox, "CHECKBOX", 14, 14) {
     ResizeOK(false);
     VertResizeOK(false);
     HorizResizeOK(false);
@@ -42,50 +42,6 @@ void ctlKOMACheckbox::KOMAGroupID(int id) {
 }
 
 void ctlKOMACheckbox::KOMAControlValue(int value) { valueWord_ = value != 0 ? "TRUE" : "FALSE"; }
-
-// The place and size setters test as the Bitmap's do, the second height's
-// plain message included.
-bool ctlKOMACheckbox::InRange(int value, int high, const char* what) {
-    if (value >= 0 && value <= high) return true;
-    Message(PicturePlaceRefusal(what, value), KOMAName());
-    return false;
-}
-
-void ctlKOMACheckbox::KOMABitmap1X(int x) {
-    if (InRange(x, 159, "Bitmap1X")) bitmap1_.x = x;
-}
-void ctlKOMACheckbox::KOMABitmap1Y(int y) {
-    if (InRange(y, 159, "Bitmap1Y")) bitmap1_.y = y;
-}
-void ctlKOMACheckbox::KOMABitmap2X(int x) {
-    if (InRange(x, 159, "Bitmap2X")) bitmap2_.x = x;
-}
-void ctlKOMACheckbox::KOMABitmap2Y(int y) {
-    if (InRange(y, 159, "Bitmap2Y")) bitmap2_.y = y;
-}
-void ctlKOMACheckbox::KOMABitmap1Width(int width) {
-    if (InRange(width, 160, "Bitmap1Width")) bitmap1_.width = width;
-}
-void ctlKOMACheckbox::KOMABitmap1Height(int height) {
-    if (InRange(height, 160, "Bitmap1Height")) bitmap1_.height = height;
-}
-void ctlKOMACheckbox::KOMABitmap2Width(int width) {
-    if (InRange(width, 160, "Bitmap2Width")) bitmap2_.width = width;
-}
-void ctlKOMACheckbox::KOMABitmap2Height(int height) {
-    if (height < 0 || height > 160) {
-        Message("Invalid value");
-        return;
-    }
-    bitmap2_.height = height;
-}
-
-void ctlKOMACheckbox::KOMABitmap1Depth(int depth) {
-    if (depth == 2 || depth == 4) bitmap1_.depth = depth;
-}
-void ctlKOMACheckbox::KOMABitmap2Depth(int depth) {
-    if (depth == 2 || depth == 4) bitmap2_.depth = depth;
-}
 
 void ctlKOMACheckbox::KOMABitmap1File(const std::string& path) { SetBitmapFile(1, path); }
 void ctlKOMACheckbox::KOMABitmap2File(const std::string& path) { SetBitmapFile(2, path); }

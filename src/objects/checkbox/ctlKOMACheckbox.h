@@ -9,10 +9,11 @@
 
 #include "objects/KomaControl.h"
 #include "objects/PictureFiles.h"
+#include "objects/TwoPictures.h"
 
 namespace tolva {
 
-class ctlKOMACheckbox : public KomaControl {
+class ctlKOMACheckbox : public TwoPictures<KomaControl> {
 public:
     static constexpr int kRowCount = 14;
 
@@ -30,35 +31,12 @@ public:
     void KOMAControlValue(int value);
     const std::string& KOMAControlValueWord() const { return valueWord_; }
 
-    // Places and sizes of the two pictures as the record holds them: X and
-    // Y 0 to 159, width and height 0 to 160.
-    int KOMABitmap1X() const { return bitmap1_.x; }
-    void KOMABitmap1X(int x);
-    int KOMABitmap1Y() const { return bitmap1_.y; }
-    void KOMABitmap1Y(int y);
-    int KOMABitmap1Width() const { return bitmap1_.width; }
-    void KOMABitmap1Width(int width);
-    int KOMABitmap1Height() const { return bitmap1_.height; }
-    void KOMABitmap1Height(int height);
-    int KOMABitmap2X() const { return bitmap2_.x; }
-    void KOMABitmap2X(int x);
-    int KOMABitmap2Y() const { return bitmap2_.y; }
-    void KOMABitmap2Y(int y);
-    int KOMABitmap2Width() const { return bitmap2_.width; }
-    void KOMABitmap2Width(int width);
-    int KOMABitmap2Height() const { return bitmap2_.height; }
-    void KOMABitmap2Height(int height);
     // The checked (1) and unchecked (2) pictures: stored only when the
     // picture loads; the empty path takes the picture away.
     const std::string& KOMABitmap1File() const { return bitmap1_.file; }
     void KOMABitmap1File(const std::string& path);
     const std::string& KOMABitmap2File() const { return bitmap2_.file; }
     void KOMABitmap2File(const std::string& path);
-    // Bits per pixel, 2 or 4; another number changes nothing.
-    int KOMABitmap1Depth() const { return bitmap1_.depth; }
-    void KOMABitmap1Depth(int depth);
-    int KOMABitmap2Depth() const { return bitmap2_.depth; }
-    void KOMABitmap2Depth(int depth);
 
     // The popup menu's choosers (CheckboxPictures.cpp).
     void SetBitmapFromChooser(int which);
@@ -95,13 +73,9 @@ private:
     // (CheckboxPictures.cpp).
     bool LoadCheckboxPicture(int which, const std::string& path);
     void SetBitmapFile(int which, const std::string& path);
-    ObjectPicture& Of(int which) { return which == 1 ? bitmap1_ : bitmap2_; }
-    bool InRange(int value, int high, const char* what);
 
     int groupId_ = 0;
     std::string valueWord_ = "FALSE";
-    ObjectPicture bitmap1_;
-    ObjectPicture bitmap2_;
     std::vector<bool> related_;
     std::vector<std::string> relatedNames_;
 };
