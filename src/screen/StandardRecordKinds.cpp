@@ -12,6 +12,7 @@
 #include "objects/pushbutton/modPushbutton.h"
 #include "objects/repeatbutton/modRepeatbutton.h"
 #include "objects/string/modString.h"
+#include "objects/textbox/modTextbox.h"
 
 namespace tolva {
 
@@ -35,7 +36,7 @@ RecordKinds MakeStandardKinds() {
         {"#STRING", type::String, ParseStringRecord, "Could not load string object",
          "Could not create string"},
         {"#TABLE", type::Table, nullptr, "Could not load table object", "Could not create table"},
-        {"#TEXTBOX", type::Textbox, nullptr, "Could not load textbox object",
+        {"#TEXTBOX", type::Textbox, ParseTextboxRecord, "Could not load textbox object",
          "Could not create textbox"},
     };
     kinds.controlHead = {"#CONTROL", type::None, ParseControlRecordHead,

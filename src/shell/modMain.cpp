@@ -15,6 +15,7 @@
 #include "objects/pushbutton/modPushbutton.h"
 #include "objects/repeatbutton/modRepeatbutton.h"
 #include "objects/string/modString.h"
+#include "objects/textbox/modTextbox.h"
 #include "canvas/qt/CanvasWidget.h"
 #include "platform/QtHost.h"
 #include "shell/FilePaths.h"
@@ -53,7 +54,7 @@ const std::vector<ValueListStep>& ValueListSteps() {
         {"bitmap", type::Bitmap, &FillBitmapValueLists},
         {"checkbox", type::Checkbox, &FillCheckboxValueLists},
         {"push button", type::PushButton, &FillPushButtonValueLists},
-        {"textbox", type::Textbox, nullptr},
+        {"textbox", type::Textbox, &FillTextboxValueLists},
         {"field", type::Field, nullptr},
         {"line", type::Line, nullptr},
         {"list", type::List, nullptr},
