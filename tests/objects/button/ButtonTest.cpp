@@ -16,6 +16,7 @@
 #include "resfile/ResourceFileFixture.h"
 #include "screen/ScreenFiles.h"
 #include "resfile/ResourceReader.h"
+#include "support/NamedElement.h"
 #include "support/RecordingOwner.h"
 
 namespace tolva::testing {
@@ -186,14 +187,6 @@ TEST_F(ButtonTest, RowsOfAnotherShapeChangeNothing) {
 }
 
 // --- drawing -------------------------------------------------------------------------------
-
-// A copy of the element, so that it outlives the list it came from.
-DrawElement Named(const DrawElementList& elements, const std::string& name) {
-    auto it = std::find_if(elements.begin(), elements.end(),
-                           [&](const DrawElement& e) { return e.name == name; });
-    EXPECT_NE(it, elements.end()) << name;
-    return it == elements.end() ? DrawElement{} : *it;
-}
 
 TEST_F(ButtonTest, StyleZeroIsAPlainFilledBoxWithTheTextInsetBy50) {
     button.KOMAControlSubType(0);

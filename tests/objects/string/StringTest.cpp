@@ -12,18 +12,11 @@
 #include "resfile/LoadFixture.h"
 #include "resfile/ResourceFileFixture.h"
 #include "screen/ScreenFiles.h"
+#include "support/NamedElement.h"
 #include "support/RecordingOwner.h"
 
 namespace tolva::testing {
 namespace {
-
-// A copy of the element, so that it outlives the list it came from.
-DrawElement Named(const DrawElementList& elements, const std::string& name) {
-    auto it = std::find_if(elements.begin(), elements.end(),
-                           [&](const DrawElement& e) { return e.name == name; });
-    EXPECT_NE(it, elements.end()) << name;
-    return it == elements.end() ? DrawElement{} : *it;
-}
 
 class StringTest : public ::testing::Test {
 protected:

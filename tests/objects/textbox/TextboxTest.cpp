@@ -10,17 +10,11 @@
 #include "objects/textbox/modTextbox.h"
 #include "resfile/ResourceFileFixture.h"
 #include "screen/ScreenFiles.h"
+#include "support/NamedElement.h"
 #include "support/RecordingOwner.h"
 
 namespace tolva::testing {
 namespace {
-
-DrawElement Named(const DrawElementList& elements, const std::string& name) {
-    auto it = std::find_if(elements.begin(), elements.end(),
-                           [&](const DrawElement& e) { return e.name == name; });
-    EXPECT_NE(it, elements.end()) << name;
-    return it == elements.end() ? DrawElement{} : *it;
-}
 
 class TextboxTest : public ::testing::Test {
 protected:
