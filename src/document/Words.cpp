@@ -148,6 +148,12 @@ std::string WordFromFont(int number) { return WordOf(number, kFontWords); }
 
 std::string ScreenFontName(int number) { return WordOf(number, kScreenFonts); }
 
+std::string ScreenFontOfWord(const std::string& fontWord) {
+    return ScreenFontName(FontFromWord(fontWord) == 1 ? 1 : 0);
+}
+
+double ScreenFontSizeOfWord(const std::string& fontWord) { return FontFromWord(fontWord) == 1 ? 19 : 14; }
+
 int ObjectTypeFromWord(const std::string& word) {
     // The one conversion that compares exactly, with no change of case.
     return NumberOf(word, kObjectTypeWords);

@@ -51,6 +51,10 @@ std::string WordFromFont(int number);
 // The screen font of a font number: "TolvaSmall" or "TolvaMedium"; empty for
 // any other number.
 std::string ScreenFontName(int number);
+// The device font a text of a font word is drawn in, and its size: "MEDIUM_FONT"
+// gives "TolvaMedium" at 19, any other word "TolvaSmall" at 14.
+std::string ScreenFontOfWord(const std::string& fontWord);
+double ScreenFontSizeOfWord(const std::string& fontWord);
 
 // Object-type words, compared exactly with no change of case: "BUTTON" 0 ...
 // "SCROLLBAR" 15, and the literal "0" 16. Any other word gives 0.

@@ -191,6 +191,13 @@ TEST(FontWords, ScreenFonts) {
     EXPECT_EQ(ScreenFontName(2), "");
 }
 
+TEST(FontWords, ATextIsDrawnInTheMediumFontOnlyForItsWord) {
+    EXPECT_EQ(ScreenFontOfWord("medium_font"), "TolvaMedium");
+    EXPECT_EQ(ScreenFontSizeOfWord("MEDIUM_FONT"), 19);
+    EXPECT_EQ(ScreenFontOfWord("LARGE_FONT"), "TolvaSmall");
+    EXPECT_EQ(ScreenFontSizeOfWord("SMALL_FONT"), 14);
+}
+
 // --- object types ------------------------------------------------------------
 
 TEST(ObjectTypeWords, EveryWord) {

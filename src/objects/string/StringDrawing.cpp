@@ -2,6 +2,7 @@
 // text box lblString in the device font, and the frame shpBorder of style 1.
 // All lengths are screen units.
 #include "objects/string/ctlKOMAString.h"
+#include "document/Words.h"
 #include "objects/string/modString.h"
 
 namespace tolva {
@@ -34,7 +35,7 @@ void ctlKOMAString::LayOut() {
         border_ = {10, 10, w - 20, h - 20};
         label_.left = 40;
         label_.width = w >= 80 ? w - 80 : w;
-        label_.height = 25 * StringFontSize(fontWord_);
+        label_.height = 25 * ScreenFontSizeOfWord(fontWord_);
     }
     label_.top = h / 2 - label_.height / 2;
 }
@@ -46,7 +47,7 @@ DrawElementList ctlKOMAString::GetDrawElements() const {
     back.fillColor = ScreenColor(backColorWord_);
 
     DrawElement text = TextElement("lblString", label_, text_);
-    text.font = DrawFont{StringScreenFont(fontWord_), StringFontSize(fontWord_), false};
+    text.font = DrawFont{ScreenFontOfWord(fontWord_), ScreenFontSizeOfWord(fontWord_), false};
     text.devicePixel = PCTwipsToTolvaPixels();
     text.foreColor = ScreenColor(fontColorWord_);
     // The text box keeps its own grey, which no property changes, but it is

@@ -30,12 +30,6 @@ std::string StringStyleNumberToWord(int number) {
     return "STRING_STYLE_" + std::to_string(number);
 }
 
-std::string StringScreenFont(const std::string& fontWord) {
-    return FontFromWord(fontWord) == 1 ? "TolvaMedium" : "TolvaSmall";
-}
-
-double StringFontSize(const std::string& fontWord) { return FontFromWord(fontWord) == 1 ? 19 : 14; }
-
 bool ParseStringRecord(RecordReader& in, LoadedRecord& record) {
     if (!ParseHeadA(in, record, 9)) return false;
     GroupList& g = record.groups;

@@ -19,11 +19,6 @@ int StringStyleWordToNumber(const std::string& word);
 // 0 to 5 give their words, anything else the empty word.
 std::string StringStyleNumberToWord(int number);
 
-// The screen font of a font word and its size: "TolvaSmall" 14 or
-// "TolvaMedium" 19.
-std::string StringScreenFont(const std::string& fontWord);
-double StringFontSize(const std::string& fontWord);
-
 // Reads from the line after "#STRING" up to and including "#END_STRING".
 // Groups: 0 name, ID; 1 x, y, width, height; 2 style; 3 text; 4 font colour;
 // 5 background colour; 6 font; 7 alignment; 8 visible.

@@ -3,6 +3,7 @@
 // full stops in a box far wider than the object, so that the line runs out
 // at the object's right edge as an entry box does on the device. All
 // lengths are screen units.
+#include "document/Words.h"
 #include "objects/textbox/ctlKOMATextbox.h"
 #include "objects/textbox/modTextbox.h"
 
@@ -25,7 +26,7 @@ void ctlKOMATextbox::LayOut() {
     label_.left = style == 0 ? 30 : style == 1 ? 50 : 70;
     label_.top = style == 0 ? 10 : 100;
     label_.width = kLabelWidth;
-    label_.height = 25 * TextboxFontSize(fontWord_);
+    label_.height = 25 * ScreenFontSizeOfWord(fontWord_);
 }
 
 DrawElementList ctlKOMATextbox::GetDrawElements() const {
@@ -44,7 +45,7 @@ DrawElementList ctlKOMATextbox::GetDrawElements() const {
     border.visible = borderShown_;
 
     DrawElement text = TextElement("lblText", label_, ShownText());
-    text.font = DrawFont{TextboxScreenFont(fontWord_), TextboxFontSize(fontWord_), false};
+    text.font = DrawFont{ScreenFontOfWord(fontWord_), ScreenFontSizeOfWord(fontWord_), false};
     text.devicePixel = PCTwipsToTolvaPixels();
     text.foreColor = kBlack;
     text.opaque = false;

@@ -26,12 +26,6 @@ int TextboxStyleWordToNumber(const std::string& word) {
     return 0;
 }
 
-std::string TextboxScreenFont(const std::string& fontWord) {
-    return FontFromWord(fontWord) == 1 ? "TolvaMedium" : "TolvaSmall";
-}
-
-double TextboxFontSize(const std::string& fontWord) { return FontFromWord(fontWord) == 1 ? 19 : 14; }
-
 bool ParseTextboxRecord(RecordReader& in, LoadedRecord& record) {
     if (!ParseHeadA(in, record, 15)) return false;
     GroupList& g = record.groups;

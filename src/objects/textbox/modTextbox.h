@@ -17,11 +17,6 @@ void FillTextboxValueLists(ValueLists& lists);
 // anything else 0.
 int TextboxStyleWordToNumber(const std::string& word);
 
-// The screen font of a font word and its size: "TolvaSmall" 14 or
-// "TolvaMedium" 19.
-std::string TextboxScreenFont(const std::string& fontWord);
-double TextboxFontSize(const std::string& fontWord);
-
 // Reads from the line after "#TEXTBOX" up to and including "#END_TEXTBOX",
 // strictly in the order written. Groups: 0 name, ID; 1 x, y, width,
 // height; 2 text; 3 style; 4 back line; 5 font; 6 font colour;
