@@ -187,6 +187,26 @@ void WriteCheckbox(std::ostream& out, const std::string& name, int id, int slot)
     out << "#END_CONTROL\r\n";
 }
 
+// A text box of each style in turn, its device state away from the
+// defaults.
+void WriteTextbox(std::ostream& out, const std::string& name, int id, int slot) {
+    WriteHeadA(out, "#TEXTBOX", name, id, "TEXTBOX", 40, 16 + slot * 15, 50, 12);
+    out << "//any text\r\n(S)TEXTBOX_TEXT=Entry " << id << "\r\n~F4\r\n"
+        << "//TEXTBOX_STYLE_0,TEXTBOX_STYLE_1,TEXTBOX_STYLE_2\r\n(B)TEXTBOX_STYLE=TEXTBOX_STYLE_"
+        << slot % 3 << "\r\n~F5\r\n//NO_LINE,DOT_LINE,GREY_LINE\r\n(B)TEXTBOX_BACK_LINE=DOT_LINE\r\n"
+        << "~F6\r\n//SMALL_FONT,MEDIUM_FONT\r\n(B)TEXTBOX_FONT="
+        << (slot % 2 ? "MEDIUM_FONT" : "SMALL_FONT") << "\r\n~F7\r\n"
+        << "//COLOR_WHITE,COLOR_GREY1,COLOR_GREY2,COLOR_BLACK\r\n(B)TEXTBOX_FONT_COLOR=COLOR_BLACK\r\n"
+        << "~F8\r\n(B)TEXTBOX_BACKGROUND_COLOR=COLOR_WHITE\r\n~F9\r\n(W)TEXTBOX_MAX_NUM_CHARS=80\r\n"
+        << "~F10\r\n(W)TEXTBOX_LEFT_CHAR_POS=1\r\n~F11\r\n(W)TEXTBOX_RIGHT_CHAR_POS=9\r\n"
+        << "~F12\r\n(W)TEXTBOX_INSERT_PT_CHAR_POS=4\r\n~F13\r\n"
+        << "(W)TEXTBOX_HIGHLIGHT_START_CHAR_POS=2\r\n~F14\r\n(W)TEXTBOX_HIGHLIGHT_END_CHAR_POS=3\r\n"
+        << "~F15\r\n//TRUE or FALSE\r\n";
+    for (const char* flag : {"ACTIVE", "ENABLE", "DIRTY", "HIGHLIGHT", "INSERT_PT_VISIBLE", "VISIBLE"})
+        out << "(BO)TEXTBOX_ATTR.TEXTBOX_" << flag << "=TRUE\r\n";
+    out << "#END_TEXTBOX\r\n";
+}
+
 // The kinds a form holds, in turn: the name prefix, the word of the form's
 // list and the record writer.
 struct ObjectKind {
@@ -201,6 +221,7 @@ const ObjectKind kObjectKinds[] = {
     {"REPEATBUTTON_", "CONTROL", WriteRepeatButton},
     {"PUSHBUTTON_", "CONTROL", WritePushButton},
     {"CHECKBOX_", "CONTROL", WriteCheckbox},
+    {"TEXTBOX_", "TEXTBOX", WriteTextbox},
 };
 constexpr int kObjectsPerForm = 9;
 

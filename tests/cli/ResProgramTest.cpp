@@ -449,3 +449,66 @@ TEST_F(CheckboxResave, AFileLineWithAnotherDepthFailsTheRecord) {
 
 }  // namespace
 }  // namespace tolva::testing
+
+namespace tolva::testing {
+namespace {
+
+// A Textbox with every field away from its default: its device state
+// (positions, highlight, insert point) goes through as it was given.
+class TextboxResave : public ResProgram {
+protected:
+    static std::string FullWith(const std::string& from, const std::string& to) {
+        std::string text = Golden("textbox_full.txt");
+        const auto at = text.find(from);
+        EXPECT_NE(at, std::string::npos) << from;
+        text.replace(at, from.size(), to);
+        return text;
+    }
+    void SetUp() override {
+        ResProgram::SetUp();
+        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+    }
+};
+
+TEST_F(TextboxResave, AFullRecordGoesThroughByteForByte) {
+    WriteFile(dir / "in.txt", Golden("textbox_full.txt"));
+    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("textbox_full.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("textbox_full.h"));
+}
+
+TEST_F(TextboxResave, AMarkerOutOfPlaceIsReportedAndTheLoadEnds) {
+    WriteFile(dir / "in.txt", FullWith("~F12\r\n", "~F21\r\n"));
+    EXPECT_EQ(Run("check in.txt"), 1);
+    EXPECT_EQ(err,
+              "Tolva Resource Editor: Error on line 83:  ~F21\n"
+              "Load Error: Could not load textbox object\n"
+              "Load Error: Invalid/unsupported resource object\n"
+              "Tolva Resource Editor: Could not load resource file\n");
+}
+
+TEST_F(TextboxResave, AWordWhereANumberBelongsEndsTheLoad) {
+    WriteFile(dir / "in.txt", FullWith("TEXTBOX_MAX_NUM_CHARS=40", "TEXTBOX_MAX_NUM_CHARS=forty"));
+    EXPECT_EQ(Run("check in.txt"), 2);
+    EXPECT_EQ(err, "load ended: Type mismatch: \"forty\" is no number\n");
+}
+
+// A negative maximum is refused as in the inspector; the rest of the record
+// stands and the default maximum is written back.
+TEST_F(TextboxResave, ANegativeMaximumIsRefusedAndTheDefaultWrittenBack) {
+    WriteFile(dir / "in.txt", FullWith("TEXTBOX_MAX_NUM_CHARS=40", "TEXTBOX_MAX_NUM_CHARS=-4"));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(err, "Tolva Resource Editor: Invalid value\n");
+    EXPECT_EQ(ReadFile(dir / "out.txt"),
+              FullWith("TEXTBOX_MAX_NUM_CHARS=40", "TEXTBOX_MAX_NUM_CHARS=256"));
+}
+
+TEST_F(TextboxResave, AStyleWordOutOfTheListIsReadAsTheFirstStyle) {
+    WriteFile(dir / "in.txt", FullWith("=TEXTBOX_STYLE_2", "=textbox_style_9"));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(ReadFile(dir / "out.txt"), FullWith("=TEXTBOX_STYLE_2", "=TEXTBOX_STYLE_0"));
+}
+
+}  // namespace
+}  // namespace tolva::testing
