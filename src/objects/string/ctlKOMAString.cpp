@@ -7,30 +7,11 @@
 
 namespace tolva {
 
-ctlKOMAString::ctlKOMAString() : KomaObject(type::String, "STRING", 53, 10) {}
+ctlKOMAString::ctlKOMAString() : TextLook(type::String, "STRING", 53, 10) {}
 
 int ctlKOMAString::KOMAStringStyle() const { return StringStyleWordToNumber(styleWord_); }
 
 void ctlKOMAString::KOMAStringStyle(int style) { styleWord_ = StringStyleNumberToWord(style); }
-
-int ctlKOMAString::KOMAFontColor() const { return ColorFromWord(fontColorWord_); }
-
-void ctlKOMAString::KOMAFontColor(int color) {
-    if (IsDeviceColor(color)) fontColorWord_ = WordFromColor(color);
-}
-
-int ctlKOMAString::KOMABackColor() const { return ColorFromWord(backColorWord_); }
-
-void ctlKOMAString::KOMABackColor(int color) {
-    if (IsDeviceColor(color)) backColorWord_ = WordFromColor(color);
-}
-
-int ctlKOMAString::KOMAFont() const { return FontFromWord(fontWord_); }
-
-void ctlKOMAString::KOMAFont(int font) {
-    if (font == 0 || font == 1) fontWord_ = WordFromFont(font);
-    LayOut();
-}
 
 int ctlKOMAString::KOMATextAlignment() const { return AlignmentFromWord(alignmentWord_); }
 
@@ -72,9 +53,7 @@ bool ctlKOMAString::CopyModelFrom(const KomaObject& other) {
     if (!string || !KomaObject::CopyModelFrom(other)) return false;
     styleWord_ = string->styleWord_;
     text_ = string->text_;
-    fontColorWord_ = string->fontColorWord_;
-    backColorWord_ = string->backColorWord_;
-    fontWord_ = string->fontWord_;
+    CopyTextLookFrom(*string);
     alignmentWord_ = string->alignmentWord_;
     visibleWord_ = string->visibleWord_;
     borderVisible_ = string->borderVisible_;

@@ -5,10 +5,11 @@
 // new style shows with the next resize, and styles 2 to 5 keep the layout
 // of the style before them.
 #include "document/KomaObject.h"
+#include "objects/TextLook.h"
 
 namespace tolva {
 
-class ctlKOMAString : public KomaObject {
+class ctlKOMAString : public TextLook<KomaObject> {
 public:
     static constexpr int kRowCount = 12;
 
@@ -21,17 +22,6 @@ public:
     const std::string& KOMAStringStyleWord() const { return styleWord_; }
     const std::string& KOMAText() const { return text_; }
     void KOMAText(const std::string& text) { text_ = text; }
-    // Colours 0, 7, 11, 15; any other number changes nothing.
-    int KOMAFontColor() const;
-    void KOMAFontColor(int color);
-    const std::string& KOMAFontColorWord() const { return fontColorWord_; }
-    int KOMABackColor() const;
-    void KOMABackColor(int color);
-    const std::string& KOMABackColorWord() const { return backColorWord_; }
-    // 0 "SMALL_FONT", 1 "MEDIUM_FONT"; the layout is redone either way.
-    int KOMAFont() const;
-    void KOMAFont(int font);
-    const std::string& KOMAFontWord() const { return fontWord_; }
     // 0 "LEFT", 1 "CENTRE", 2 "RIGHT"; any other number changes nothing.
     int KOMATextAlignment() const;
     void KOMATextAlignment(int alignment);
@@ -58,9 +48,6 @@ protected:
 private:
     std::string styleWord_ = "STRING_STYLE_0";
     std::string text_ = "String Text";
-    std::string fontColorWord_ = "COLOR_BLACK";
-    std::string backColorWord_ = "COLOR_WHITE";
-    std::string fontWord_ = "SMALL_FONT";
     std::string alignmentWord_ = "LEFT";
     std::string visibleWord_ = "TRUE";
 

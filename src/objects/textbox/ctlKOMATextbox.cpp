@@ -8,7 +8,7 @@
 
 namespace tolva {
 
-ctlKOMATextbox::ctlKOMATextbox() : KomaObject(type::Textbox, "TEXTBOX", 43, 36) {}
+ctlKOMATextbox::ctlKOMATextbox() : TextLook(type::Textbox, "TEXTBOX", 43, 36) {}
 
 int ctlKOMATextbox::KOMATextboxStyle() const { return TextboxStyleWordToNumber(styleWord_); }
 
@@ -21,25 +21,6 @@ int ctlKOMATextbox::KOMABackline() const { return BaseLineFromWord(backlineWord_
 void ctlKOMATextbox::KOMABackline(int line) {
     const std::string word = WordFromBaseLine(line);
     if (!word.empty()) backlineWord_ = word;
-}
-
-int ctlKOMATextbox::KOMAFont() const { return FontFromWord(fontWord_); }
-
-void ctlKOMATextbox::KOMAFont(int font) {
-    if (font == 0 || font == 1) fontWord_ = WordFromFont(font);
-    LayOut();
-}
-
-int ctlKOMATextbox::KOMAFontColor() const { return ColorFromWord(fontColorWord_); }
-
-void ctlKOMATextbox::KOMAFontColor(int color) {
-    if (IsDeviceColor(color)) fontColorWord_ = WordFromColor(color);
-}
-
-int ctlKOMATextbox::KOMABackColor() const { return ColorFromWord(backColorWord_); }
-
-void ctlKOMATextbox::KOMABackColor(int color) {
-    if (IsDeviceColor(color)) backColorWord_ = WordFromColor(color);
 }
 
 void ctlKOMATextbox::KOMAMaxNumChars(int count) {
@@ -120,9 +101,7 @@ bool ctlKOMATextbox::CopyModelFrom(const KomaObject& other) {
     text_ = box->text_;
     styleWord_ = box->styleWord_;
     backlineWord_ = box->backlineWord_;
-    fontWord_ = box->fontWord_;
-    fontColorWord_ = box->fontColorWord_;
-    backColorWord_ = box->backColorWord_;
+    CopyTextLookFrom(*box);
     maxNumChars_ = box->maxNumChars_;
     leftCharPos_ = box->leftCharPos_;
     rightCharPos_ = box->rightCharPos_;

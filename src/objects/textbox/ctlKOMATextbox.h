@@ -6,10 +6,11 @@
 #include <string>
 
 #include "document/KomaObject.h"
+#include "objects/TextLook.h"
 
 namespace tolva {
 
-class ctlKOMATextbox : public KomaObject {
+class ctlKOMATextbox : public TextLook<KomaObject> {
 public:
     static constexpr int kRowCount = 23;
 
@@ -27,17 +28,6 @@ public:
     int KOMABackline() const;
     void KOMABackline(int line);
     const std::string& KOMABacklineWord() const { return backlineWord_; }
-    // 0 "SMALL_FONT", 1 "MEDIUM_FONT"; the layout is redone either way.
-    int KOMAFont() const;
-    void KOMAFont(int font);
-    const std::string& KOMAFontWord() const { return fontWord_; }
-    // Colours 0, 7, 11, 15; another number changes nothing.
-    int KOMAFontColor() const;
-    void KOMAFontColor(int color);
-    const std::string& KOMAFontColorWord() const { return fontColorWord_; }
-    int KOMABackColor() const;
-    void KOMABackColor(int color);
-    const std::string& KOMABackColorWord() const { return backColorWord_; }
 
     // The longest text, 0 or more: a negative one is refused with "Invalid
     // value" under the application's title.
@@ -98,9 +88,6 @@ private:
     std::string text_ = "Textbox Text";
     std::string styleWord_ = "TEXTBOX_STYLE_0";
     std::string backlineWord_ = "DOT_LINE";
-    std::string fontWord_ = "SMALL_FONT";
-    std::string fontColorWord_ = "COLOR_BLACK";
-    std::string backColorWord_ = "COLOR_WHITE";
     int maxNumChars_ = 256;
     int leftCharPos_ = 0;
     int rightCharPos_ = -1;
