@@ -79,6 +79,10 @@ struct DrawElement {
     double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
     DrawColor lineColor = kBlack;
     double lineWidth = 15;  // screen units
+    // A level line on the device's pixels (devicePixel screen units each,
+    // one pixel thick, from the row at y1): every pixel, or with `dotted`
+    // every other one, as the device draws its dotted lines.
+    bool dotted = false;
 };
 
 using DrawElementList = std::vector<DrawElement>;

@@ -29,6 +29,9 @@ using GroupList = std::vector<ValueGroup>;
 
 inline constexpr double kDefaultTwipsPerPixel = 36.59;
 inline constexpr int kNotInTable = 65535;
+// The mouse buttons of the mouse events, as bits.
+inline constexpr int kLeftButton = 1;
+inline constexpr int kRightButton = 2;
 
 class KomaObject {
 public:

@@ -6,9 +6,14 @@
 // font sets the height of its text.
 #include <string>
 
+#include "canvas/DrawElement.h"
 #include "document/Words.h"
 
 namespace tolva {
+
+// The grey of the screen for a colour word: "COLOR_WHITE", "COLOR_GREY1",
+// "COLOR_GREY2", and black for "COLOR_BLACK" and any other word.
+DrawColor ScreenColorOfWord(const std::string& word);
 
 template <class Base>
 class TextLook : public Base {
@@ -35,6 +40,13 @@ public:
     const std::string& KOMABackColorWord() const { return backColorWord_; }
 
 protected:
+    // The device font of the font word, as the canvas draws it.
+    DrawFont ScreenFont() const {
+        return DrawFont{ScreenFontOfWord(fontWord_), ScreenFontSizeOfWord(fontWord_), false};
+    }
+    DrawColor ScreenFontColor() const { return ScreenColorOfWord(fontColorWord_); }
+    DrawColor ScreenBackColor() const { return ScreenColorOfWord(backColorWord_); }
+
     void CopyTextLookFrom(const TextLook& other) {
         fontWord_ = other.fontWord_;
         fontColorWord_ = other.fontColorWord_;

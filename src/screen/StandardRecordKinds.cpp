@@ -12,6 +12,7 @@
 #include "objects/pushbutton/modPushbutton.h"
 #include "objects/repeatbutton/modRepeatbutton.h"
 #include "objects/string/modString.h"
+#include "objects/field/modField.h"
 #include "objects/textbox/modTextbox.h"
 
 namespace tolva {
@@ -25,7 +26,7 @@ RecordKinds MakeStandardKinds() {
         {"#FORM", type::Form, ParseFormRecord, "Could not load form object", "Could not create form"},
         {"#BITMAP", type::Bitmap, ParseBitmapRecord, "Could not load bitmap object",
          "Could not create bitmap"},
-        {"#FIELD", type::Field, nullptr, "Could not load field object", "Could not create field"},
+        {"#FIELD", type::Field, ParseFieldRecord, "Could not load field object", "Could not create field"},
         {"#LINE", type::Line, nullptr, "Could not load line object", "Could not create line"},
         {"#LIST", type::List, nullptr, "Could not load list object", "Could not create list"},
         {"#MENU", type::Menu, nullptr, "Could not load menu object", "Could not create menu"},

@@ -2,12 +2,15 @@
 
 #include "objects/checkbox/CheckboxRelations.h"
 #include "objects/checkbox/editors/frmCheckbox.h"
+#include "objects/field/FieldEditorText.h"
+#include "objects/field/editors/frmField.h"
 #include "platform/DialogRegistry.h"
 
 namespace tolva {
 
 void RegisterObjectDialogs() {
     RegisterDialog(CheckboxRelations::kDialogName, &frmCheckbox::Run);
+    RegisterDialog(FieldEditorText::kDialogName, &frmField::Run);
 }
 
 }  // namespace tolva

@@ -15,6 +15,7 @@
 #include "objects/pushbutton/modPushbutton.h"
 #include "objects/repeatbutton/modRepeatbutton.h"
 #include "objects/string/modString.h"
+#include "objects/field/modField.h"
 #include "objects/textbox/modTextbox.h"
 #include "canvas/qt/CanvasWidget.h"
 #include "platform/QtHost.h"
@@ -55,7 +56,7 @@ const std::vector<ValueListStep>& ValueListSteps() {
         {"checkbox", type::Checkbox, &FillCheckboxValueLists},
         {"push button", type::PushButton, &FillPushButtonValueLists},
         {"textbox", type::Textbox, &FillTextboxValueLists},
-        {"field", type::Field, nullptr},
+        {"field", type::Field, &FillFieldValueLists},
         {"line", type::Line, nullptr},
         {"list", type::List, nullptr},
         {"menu", type::Menu, nullptr},

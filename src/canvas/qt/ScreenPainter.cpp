@@ -191,6 +191,7 @@ void ScreenPainter::PaintElement(QPainter& painter, const DrawElement& element, 
             break;
         }
         case DrawElementKind::Line: {
+            if (PaintDeviceLine(painter, element, left, top)) break;
             QPen pen(ToQColor(element.lineColor), std::max(1.0, ToPixels(element.lineWidth)));
             painter.setPen(pen);
             painter.drawLine(ToPixels(left + element.x1, top + element.y1),
@@ -225,14 +226,8 @@ bool ScreenPainter::PaintDeviceText(QPainter& painter, const DrawElement& elemen
     clip.height = std::max(placed.height, (y + font->height) * dp);
     painter.setClipRect(ToPixels(clip), Qt::IntersectClip);
     const QColor ink = ToQColor(element.foreColor);
-    // Whole desktop pixels for every device pixel edge, so that neighbouring
-    // squares meet without seams.
-    auto edge = [&](double units) { return std::round(ToPixels(units)); };
     auto dot = [&](int px, int py) {
-        const double ux = placed.left + px * dp;
-        const double uy = placed.top + py * dp;
-        const double l = edge(ux), t = edge(uy), r = edge(ux + dp), b = edge(uy + dp);
-        painter.fillRect(QRectF(l, t, std::max(1.0, r - l), std::max(1.0, b - t)), ink);
+        FillDevicePixel(painter, placed.left + px * dp, placed.top + py * dp, dp, ink);
     };
     for (const char c : element.text) {
         const DeviceGlyph& glyph = font->Glyph(c);
@@ -246,6 +241,25 @@ bool ScreenPainter::PaintDeviceText(QPainter& painter, const DrawElement& elemen
     }
     painter.restore();
     return true;
+}
+
+bool ScreenPainter::PaintDeviceLine(QPainter& painter, const DrawElement& element, double left,
+                                    double top) {
+    const double dp = element.devicePixel;
+    if (dp <= 0 || element.y1 != element.y2) return false;
+    const double from = std::min(element.x1, element.x2);
+    const int count = static_cast<int>((std::max(element.x1, element.x2) - from) / dp);
+    const QColor ink = ToQColor(element.lineColor);
+    for (int i = 0; i < count; i += element.dotted ? 2 : 1)
+        FillDevicePixel(painter, left + from + i * dp, top + element.y1, dp, ink);
+    return true;
+}
+
+void ScreenPainter::FillDevicePixel(QPainter& painter, double ux, double uy, double size,
+                                    const QColor& color) {
+    auto edge = [&](double units) { return std::round(ToPixels(units)); };
+    const double l = edge(ux), t = edge(uy), r = edge(ux + size), b = edge(uy + size);
+    painter.fillRect(QRectF(l, t, std::max(1.0, r - l), std::max(1.0, b - t)), color);
 }
 
 const QImage& ScreenPainter::Picture(const std::string& path, int depth) {

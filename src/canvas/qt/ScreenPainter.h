@@ -37,6 +37,12 @@ public:
     // Text in a device pixel font, one filled square per ink pixel; false
     // when the element is no device text or its font is not loaded.
     bool PaintDeviceText(QPainter& painter, const DrawElement& element, const CanvasRect& placed);
+    // A level line on the device's pixels, solid or dotted; false when the
+    // line is not one.
+    bool PaintDeviceLine(QPainter& painter, const DrawElement& element, double left, double top);
+    // One device pixel of `size` screen units at ux, uy, on whole desktop
+    // pixels, so that neighbouring pixels meet without seams.
+    void FillDevicePixel(QPainter& painter, double ux, double uy, double size, const QColor& color);
 
     QRectF ToPixels(const CanvasRect& rect) const;
     QPointF ToPixels(double x, double y) const;

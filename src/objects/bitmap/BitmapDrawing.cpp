@@ -6,10 +6,6 @@
 
 namespace tolva {
 
-namespace {
-constexpr int kRightButton = 2;
-}
-
 DrawElementList ctlKOMABitmap::GetDrawElements() const {
     const double s = PCTwipsToTolvaPixels();
     DrawElementList elements;

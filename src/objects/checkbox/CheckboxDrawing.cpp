@@ -7,10 +7,6 @@
 
 namespace tolva {
 
-namespace {
-constexpr int kRightButton = 2;
-}
-
 DrawElementList ctlKOMACheckbox::GetDrawElements() const {
     DrawElement back = ShapeElement("shpBackground", {0, 0, Width(), Height()});
     back.outline = false;

@@ -10,7 +10,6 @@ namespace tolva {
 
 namespace {
 
-constexpr int kRightButton = 2;
 constexpr const char* kPopupTitle = "Set Properties";
 constexpr int kSetFormBitmap = 0;
 constexpr int kRemoveFormBitmap = 1;

@@ -9,7 +9,6 @@ namespace tolva {
 
 namespace {
 
-constexpr int kRightButton = 2;
 constexpr double kDesktopPixel = 15;  // screen units
 constexpr DrawColor kLightBlue{0x80, 0x80, 0xFF};
 

@@ -11,13 +11,6 @@ namespace {
 
 constexpr double kOutlineWidth = 30;  // two desktop pixels
 
-DrawColor ScreenColor(const std::string& word) {
-    if (word == "COLOR_WHITE") return kWhite;
-    if (word == "COLOR_GREY1") return {0xC0, 0xC0, 0xC0};
-    if (word == "COLOR_GREY2") return {0x80, 0x80, 0x80};
-    return kBlack;
-}
-
 }  // namespace
 
 // Styles 0 and 1 lay the parts out; styles 2 to 5 keep the last layout.
@@ -44,12 +37,12 @@ DrawElementList ctlKOMAString::GetDrawElements() const {
     DrawElement back = ShapeElement("shpBackground", {0, 0, Width(), Height()});
     back.outline = false;
     back.filled = true;
-    back.fillColor = ScreenColor(backColorWord_);
+    back.fillColor = ScreenBackColor();
 
     DrawElement text = TextElement("lblString", label_, text_);
-    text.font = DrawFont{ScreenFontOfWord(fontWord_), ScreenFontSizeOfWord(fontWord_), false};
+    text.font = ScreenFont();
     text.devicePixel = PCTwipsToTolvaPixels();
-    text.foreColor = ScreenColor(fontColorWord_);
+    text.foreColor = ScreenFontColor();
     // The text box keeps its own grey, which no property changes, but it is
     // drawn clear: the String's background colour shows behind the text, as
     // it does on the device.

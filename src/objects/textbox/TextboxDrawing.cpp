@@ -45,7 +45,7 @@ DrawElementList ctlKOMATextbox::GetDrawElements() const {
     border.visible = borderShown_;
 
     DrawElement text = TextElement("lblText", label_, ShownText());
-    text.font = DrawFont{ScreenFontOfWord(fontWord_), ScreenFontSizeOfWord(fontWord_), false};
+    text.font = ScreenFont();
     text.devicePixel = PCTwipsToTolvaPixels();
     text.foreColor = kBlack;
     text.opaque = false;
