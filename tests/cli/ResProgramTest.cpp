@@ -512,3 +512,70 @@ TEST_F(TextboxResave, AStyleWordOutOfTheListIsReadAsTheFirstStyle) {
 
 }  // namespace
 }  // namespace tolva::testing
+
+namespace tolva::testing {
+namespace {
+
+// A Field with every field away from its default, its text holding "/r"
+// as a load leaves it, and its top line on the second of its lines.
+class FieldResave : public ResProgram {
+protected:
+    static std::string FullWith(const std::string& from, const std::string& to) {
+        std::string text = Golden("field_full.txt");
+        const auto at = text.find(from);
+        EXPECT_NE(at, std::string::npos) << from;
+        text.replace(at, from.size(), to);
+        return text;
+    }
+    void SetUp() override {
+        ResProgram::SetUp();
+        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+    }
+};
+
+TEST_F(FieldResave, AFullRecordGoesThroughByteForByte) {
+    WriteFile(dir / "in.txt", Golden("field_full.txt"));
+    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("field_full.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("field_full.h"));
+}
+
+// The text wraps into seven lines in the medium font on 80 pixels less
+// the margins: a top line of 40 comes back as the last, 6.
+TEST_F(FieldResave, ATopLineBeyondTheLastLineIsWrittenBackAsTheLast) {
+    WriteFile(dir / "in.txt", FullWith("FIELD_TOP_LINE_NUM=1", "FIELD_TOP_LINE_NUM=40"));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(ReadFile(dir / "out.txt"), FullWith("FIELD_TOP_LINE_NUM=1", "FIELD_TOP_LINE_NUM=6"));
+}
+
+TEST_F(FieldResave, AKeyOutOfPlaceIsReportedAndTheLoadEnds) {
+    WriteFile(dir / "in.txt", FullWith("(B)FIELD_TEXTMENT=RIGHT", "(B)TEXTMENT=RIGHT"));
+    EXPECT_EQ(Run("check in.txt"), 1);
+    EXPECT_EQ(err,
+              "Tolva Resource Editor: Error on line 80:  (B)TEXTMENT=RIGHT\n"
+              "Load Error: Could not load field object\n"
+              "Load Error: Invalid/unsupported resource object\n"
+              "Tolva Resource Editor: Could not load resource file\n");
+}
+
+TEST_F(FieldResave, AWordWhereANumberBelongsEndsTheLoad) {
+    WriteFile(dir / "in.txt", FullWith("FIELD_HIGHLIGHT_END=8", "FIELD_HIGHLIGHT_END=x8"));
+    EXPECT_EQ(Run("check in.txt"), 2);
+    EXPECT_EQ(err, "load ended: Type mismatch: \"x8\" is no number\n");
+}
+
+TEST_F(FieldResave, WordsOutOfTheirListsAreReadAsTheFirstOrLeaveTheDefault) {
+    std::string text = FullWith("=FIELD_STYLE_1", "=FIELD_STYLE_2");
+    const auto at = text.find("(B)FIELD_TEXTMENT=RIGHT");
+    text.replace(at, 23, "(B)FIELD_TEXTMENT=MIDDLE");
+    WriteFile(dir / "in.txt", text);
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    std::string expected = FullWith("=FIELD_STYLE_1", "=FIELD_STYLE_0");
+    const auto was = expected.find("(B)FIELD_TEXTMENT=RIGHT");
+    expected.replace(was, 23, "(B)FIELD_TEXTMENT=LEFT");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), expected);
+}
+
+}  // namespace
+}  // namespace tolva::testing
