@@ -40,6 +40,7 @@
 #include <string>
 #include <vector>
 
+#include "canvas/FontWidths.h"
 #include "document/Host.h"
 #include "document/LogSink.h"
 #include "document/RuntimeFailure.h"
@@ -207,6 +208,28 @@ void WriteTextbox(std::ostream& out, const std::string& name, int id, int slot) 
     out << "#END_TEXTBOX\r\n";
 }
 
+// A field of several lines, with a line break written as "/r", in each
+// font in turn.
+void WriteField(std::ostream& out, const std::string& name, int id, int slot) {
+    WriteHeadA(out, "#FIELD", name, id, "FIELD", 60, 16 + slot * 15, 60, 14);
+    out << "//any text\r\n(S)FIELD_TEXT=Field " << id
+        << " holds a few words,/rwrapped as the device wraps them.\r\n~F4\r\n"
+        << "//FIELD_STYLE_0,FIELD_STYLE_1,FIELD_STYLE_2\r\n(B)FIELD_STYLE=FIELD_STYLE_" << slot % 2
+        << "\r\n~F5\r\n//NO_LINE,DOT_LINE,GREY_LINE\r\n(B)FIELD_BACK_LINE=GREY_LINE\r\n~F6\r\n"
+        << "//SMALL_FONT,MEDIUM_FONT\r\n(B)FIELD_FONT=" << (slot % 2 ? "SMALL_FONT" : "MEDIUM_FONT")
+        << "\r\n~F7\r\n//COLOR_WHITE,COLOR_GREY1,COLOR_GREY2,COLOR_BLACK\r\n"
+        << "(B)FIELD_FONT_COLOR=COLOR_BLACK\r\n~F8\r\n"
+        << "//COLOR_WHITE,COLOR_GREY1,COLOR_GREY2,COLOR_BLACK\r\n(B)FIELD_BACKGROUND_COLOR=COLOR_WHITE\r\n"
+        << "~F9\r\n//LEFT,CENTRE,RIGHT\r\n(B)FIELD_TEXTMENT=LEFT\r\n~F10\r\n"
+        << "(W)FIELD_MAX_NUM_CHARS=200\r\n~F11\r\n(W)FIELD_TOP_LINE_NUM=1\r\n~F12\r\n"
+        << "(W)FIELD_INSERT_PT_CHAR_POS=3\r\n~F13\r\n(W)FIELD_HIGHLIGHT_START=1\r\n~F14\r\n"
+        << "(W)FIELD_HIGHLIGHT_END=2\r\n~F15\r\n//TRUE or FALSE\r\n";
+    for (const char* flag : {"ACTIVE", "ENABLE", "DIRTY", "HIGHLIGHT", "INSERT_PT_VISIBLE", "SCROLLBAR",
+                             "FULL_SIZE", "VISIBLE"})
+        out << "(BO)FIELD_ATTR.FIELD_" << flag << "=TRUE\r\n";
+    out << "#END_FIELD\r\n";
+}
+
 // The kinds a form holds, in turn: the name prefix, the word of the form's
 // list and the record writer.
 struct ObjectKind {
@@ -222,6 +245,7 @@ const ObjectKind kObjectKinds[] = {
     {"PUSHBUTTON_", "CONTROL", WritePushButton},
     {"CHECKBOX_", "CONTROL", WriteCheckbox},
     {"TEXTBOX_", "TEXTBOX", WriteTextbox},
+    {"FIELD_", "FIELD", WriteField},
 };
 constexpr int kObjectsPerForm = 9;
 
@@ -356,6 +380,11 @@ int main(int argc, char** argv) {
     }
     const bool check = argc > 1 && std::strcmp(argv[1], "--check") == 0;
     const std::string directory = ProgramDirectory();
+    // Fields wrap their text against the device's widths, as in the editor.
+    {
+        BenchHost host(directory);
+        if (!tolva::LoadFontWidths(host)) return 1;
+    }
     // The forms name "FORM.BMP", the other kinds' pictures "ICON.BMP": they
     // stand in the working directory, as the resource compiler wants them,
     // so every picture loads.

@@ -45,11 +45,16 @@ DrawElementList ctlKOMAField::GetDrawElements() const {
 
     const LinePitch pitch = PitchOfFont(KOMAFont());
     const int alignment = KOMATextAlignment();
-    const std::vector<std::string> shown = ShownLines();
-    for (std::size_t n = 0; n < shown.size(); ++n) {
+    // Every line from the top line on has its box; only those that begin
+    // inside the object can show anything, and only they are drawn, so a
+    // long text costs the canvas no more than the lines it shows.
+    const std::size_t first = FirstShownLine();
+    for (std::size_t n = 0; first + n < lines_.size(); ++n) {
         const double top = (1 + pitch.pitch * static_cast<double>(n)) * p;
+        if (n > 0 && top >= h) break;
         DrawElement text = TextElement("lblText(" + std::to_string(n) + ")",
-                                       {p, top, w <= 40 ? w : w - 40, pitch.boxHeight * p}, shown[n]);
+                                       {p, top, w <= 40 ? w : w - 40, pitch.boxHeight * p},
+                                       lines_[first + n]);
         text.font = ScreenFont();
         text.devicePixel = p;
         text.foreColor = ScreenFontColor();

@@ -58,10 +58,14 @@ void ctlKOMAField::KOMAMaxNumChars(int count) {
     maxNumChars_ = count;
 }
 
-std::vector<std::string> ctlKOMAField::ShownLines() const {
+std::size_t ctlKOMAField::FirstShownLine() const {
     // A negative top line, which the device never makes, shows from the
     // first line.
-    const std::size_t first = static_cast<std::size_t>(std::max(0, topLineNum_));
+    return static_cast<std::size_t>(std::max(0, topLineNum_));
+}
+
+std::vector<std::string> ctlKOMAField::ShownLines() const {
+    const std::size_t first = FirstShownLine();
     if (first >= lines_.size()) return {};
     return {lines_.begin() + static_cast<std::ptrdiff_t>(first), lines_.end()};
 }

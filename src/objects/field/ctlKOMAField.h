@@ -107,6 +107,7 @@ protected:
 
 private:
     static const char* Word(bool value) { return value ? "TRUE" : "FALSE"; }
+    std::size_t FirstShownLine() const;
 
     std::string text_ = "Field text";
     std::string styleWord_ = "FIELD_STYLE_0";

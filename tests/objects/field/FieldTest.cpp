@@ -166,6 +166,18 @@ TEST_F(FieldTest, TheLinesFromTheTopLineOnAreShownAndBoxesFollowTheCount) {
     EXPECT_EQ(boxes(), 1);
 }
 
+// Every line from the top line on has its box; the canvas gets those that
+// begin inside the field, as the rest would show nothing.
+TEST_F(FieldTest, BoxesBelowTheFieldsBottomAreNotDrawn) {
+    SizeFor(50, 20);
+    field.KOMAText("one two three four five six seven eight nine ten eleven twelve");
+    ASSERT_GT(field.ShownLines().size(), 3u);
+    int boxes = 0;
+    for (const DrawElement& e : field.GetDrawElements()) boxes += e.name.rfind("lblText(", 0) == 0;
+    // Rows at pixels 1, 10 and 19 begin inside the 20 pixels; 28 does not.
+    EXPECT_EQ(boxes, 3);
+}
+
 TEST_F(FieldTest, ATopLineBeyondTheLastLineFallsBackToTheLastAndIsWrittenSo) {
     SizeFor(45, 46);
     field.KOMAText("Hello world");
