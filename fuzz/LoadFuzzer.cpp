@@ -17,6 +17,7 @@
 #include <string>
 
 #include "QuietHost.h"
+#include "canvas/FontWidths.h"
 #include "document/LogSink.h"
 #include "document/RuntimeFailure.h"
 #include "screen/ctlTolvaScreen.h"
@@ -83,6 +84,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         out.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
     }
     tolva::fuzz::QuietHost host(directory);
+    // Fields wrap against the device's widths, as in the editor.
+    static const bool widths = tolva::LoadFontWidths(host);
+    (void)widths;
     tolva::NullLogSink log;
     tolva::ctlTolvaScreen screen(host, log);
     screen.SetCanvasSize(6255, 6255);
@@ -92,6 +96,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         const bool loaded = tolva::LoadResourceFile(screen, input);
         screen.StopLoading();
         if (loaded) {
+            // Every object laid out into what the canvas would paint.
+            for (int type = 0; type <= 16; ++type)
+                for (int i = 1; i <= screen.Count(type); ++i)
+                    if (tolva::KomaObject* object = screen.ObjectAt(type, i)) (void)object->GetDrawElements();
             tolva::SaveResourceFile(screen, output);
             tolva::SaveHeaderFile(screen, header);
         }
