@@ -12,7 +12,7 @@
 
 namespace tolva {
 
-ctlKOMAField::ctlKOMAField() : TextLook(type::Field, "FIELD", 50, 46) { LayOut(); }
+ctlKOMAField::ctlKOMAField() : EntryState(type::Field, "FIELD", 50, 46) { LayOut(); }
 
 void ctlKOMAField::KOMAText(const std::string& text) {
     text_ = text;
@@ -48,14 +48,6 @@ void ctlKOMAField::KOMATextAlignment(int alignment) {
 void ctlKOMAField::KOMATopLineNum(int line) {
     topLineNum_ = line;
     LayOut();
-}
-
-void ctlKOMAField::KOMAMaxNumChars(int count) {
-    if (count < 0) {
-        Message("Invalid value");
-        return;
-    }
-    maxNumChars_ = count;
 }
 
 std::size_t ctlKOMAField::FirstShownLine() const {
@@ -167,18 +159,9 @@ bool ctlKOMAField::CopyModelFrom(const KomaObject& other) {
     backlineWord_ = field->backlineWord_;
     alignmentWord_ = field->alignmentWord_;
     topLineNum_ = field->topLineNum_;
-    maxNumChars_ = field->maxNumChars_;
-    insertPointCharPos_ = field->insertPointCharPos_;
-    highlightStart_ = field->highlightStart_;
-    highlightEnd_ = field->highlightEnd_;
-    activeWord_ = field->activeWord_;
-    enableWord_ = field->enableWord_;
-    dirtyWord_ = field->dirtyWord_;
-    highlightWord_ = field->highlightWord_;
-    insertPointVisibleWord_ = field->insertPointVisibleWord_;
+    CopyEntryStateFrom(*field);
     scrollbarWord_ = field->scrollbarWord_;
     fullSizeWord_ = field->fullSizeWord_;
-    visibleWord_ = field->visibleWord_;
     availableWidth_ = field->availableWidth_;
     lines_ = field->lines_;
     return true;

@@ -9,11 +9,12 @@
 #include <vector>
 
 #include "document/KomaObject.h"
+#include "objects/EntryState.h"
 #include "objects/TextLook.h"
 
 namespace tolva {
 
-class ctlKOMAField : public TextLook<KomaObject> {
+class ctlKOMAField : public EntryState<TextLook<KomaObject>> {
 public:
     static constexpr int kRowCount = 25;
 
@@ -40,43 +41,15 @@ public:
     int KOMATopLineNum() const { return topLineNum_; }
     void KOMATopLineNum(int line);
 
-    // The longest text, 0 or more: a negative one is refused with "Invalid
-    // value" under the application's title.
-    int KOMAMaxNumChars() const { return maxNumChars_; }
-    void KOMAMaxNumChars(int count);
-    // The device's positions in the text, kept as given whatever the text.
-    int KOMAInsertPointCharPos() const { return insertPointCharPos_; }
-    void KOMAInsertPointCharPos(int position) { insertPointCharPos_ = position; }
-    int KOMAHighlightStartCharPos() const { return highlightStart_; }
-    void KOMAHighlightStartCharPos(int position) { highlightStart_ = position; }
-    int KOMAHighlightEndCharPos() const { return highlightEnd_; }
-    void KOMAHighlightEndCharPos(int position) { highlightEnd_ = position; }
 
-    // The eight flags, held as "TRUE" or "FALSE".
-    bool KOMAActive() const { return activeWord_ == "TRUE"; }
-    void KOMAActive(bool value) { activeWord_ = Word(value); }
-    bool KOMAEnable() const { return enableWord_ == "TRUE"; }
-    void KOMAEnable(bool value) { enableWord_ = Word(value); }
-    bool KOMADirty() const { return dirtyWord_ == "TRUE"; }
-    void KOMADirty(bool value) { dirtyWord_ = Word(value); }
-    bool KOMAHighlight() const { return highlightWord_ == "TRUE"; }
-    void KOMAHighlight(bool value) { highlightWord_ = Word(value); }
-    bool KOMAInsertPointVisible() const { return insertPointVisibleWord_ == "TRUE"; }
-    void KOMAInsertPointVisible(bool value) { insertPointVisibleWord_ = Word(value); }
+    // Two flags of the Field's own beside those of every entry, held as
+    // "TRUE" or "FALSE".
     bool KOMAScrollbar() const { return scrollbarWord_ == "TRUE"; }
-    void KOMAScrollbar(bool value) { scrollbarWord_ = Word(value); }
+    void KOMAScrollbar(bool value) { scrollbarWord_ = FlagWord(value); }
     bool KOMAFullSize() const { return fullSizeWord_ == "TRUE"; }
-    void KOMAFullSize(bool value) { fullSizeWord_ = Word(value); }
-    bool KOMAVisible() const { return visibleWord_ == "TRUE"; }
-    void KOMAVisible(bool value) { visibleWord_ = Word(value); }
-    const std::string& KOMAActiveWord() const { return activeWord_; }
-    const std::string& KOMAEnableWord() const { return enableWord_; }
-    const std::string& KOMADirtyWord() const { return dirtyWord_; }
-    const std::string& KOMAHighlightWord() const { return highlightWord_; }
-    const std::string& KOMAInsertPointVisibleWord() const { return insertPointVisibleWord_; }
+    void KOMAFullSize(bool value) { fullSizeWord_ = FlagWord(value); }
     const std::string& KOMAScrollbarWord() const { return scrollbarWord_; }
     const std::string& KOMAFullSizeWord() const { return fullSizeWord_; }
-    const std::string& KOMAVisibleWord() const { return visibleWord_; }
 
     // The last layout: every line of the wrapped text, and the lines shown
     // from the top line on.
@@ -106,7 +79,6 @@ protected:
     void LayOut() override;
 
 private:
-    static const char* Word(bool value) { return value ? "TRUE" : "FALSE"; }
     std::size_t FirstShownLine() const;
 
     std::string text_ = "Field text";
@@ -114,18 +86,8 @@ private:
     std::string backlineWord_ = "DOT_LINE";
     std::string alignmentWord_ = "LEFT";
     int topLineNum_ = 0;
-    int maxNumChars_ = 256;
-    int insertPointCharPos_ = 0;
-    int highlightStart_ = 0;
-    int highlightEnd_ = 0;
-    std::string activeWord_ = "TRUE";
-    std::string enableWord_ = "TRUE";
-    std::string dirtyWord_ = "FALSE";
-    std::string highlightWord_ = "FALSE";
-    std::string insertPointVisibleWord_ = "FALSE";
     std::string scrollbarWord_ = "FALSE";
     std::string fullSizeWord_ = "FALSE";
-    std::string visibleWord_ = "TRUE";
 
     // The last layout.
     int availableWidth_ = 0;

@@ -8,7 +8,7 @@
 
 namespace tolva {
 
-ctlKOMATextbox::ctlKOMATextbox() : TextLook(type::Textbox, "TEXTBOX", 43, 36) {}
+ctlKOMATextbox::ctlKOMATextbox() : EntryState(type::Textbox, "TEXTBOX", 43, 36) {}
 
 int ctlKOMATextbox::KOMATextboxStyle() const { return TextboxStyleWordToNumber(styleWord_); }
 
@@ -21,14 +21,6 @@ int ctlKOMATextbox::KOMABackline() const { return BaseLineFromWord(backlineWord_
 void ctlKOMATextbox::KOMABackline(int line) {
     const std::string word = WordFromBaseLine(line);
     if (!word.empty()) backlineWord_ = word;
-}
-
-void ctlKOMATextbox::KOMAMaxNumChars(int count) {
-    if (count < 0) {
-        Message("Invalid value");
-        return;
-    }
-    maxNumChars_ = count;
 }
 
 std::string ctlKOMATextbox::ShownText() const { return text_ + std::string(100, '.'); }
@@ -102,18 +94,9 @@ bool ctlKOMATextbox::CopyModelFrom(const KomaObject& other) {
     styleWord_ = box->styleWord_;
     backlineWord_ = box->backlineWord_;
     CopyTextLookFrom(*box);
-    maxNumChars_ = box->maxNumChars_;
+    CopyEntryStateFrom(*box);
     leftCharPos_ = box->leftCharPos_;
     rightCharPos_ = box->rightCharPos_;
-    insertPointCharPos_ = box->insertPointCharPos_;
-    highlightStart_ = box->highlightStart_;
-    highlightEnd_ = box->highlightEnd_;
-    activeWord_ = box->activeWord_;
-    enableWord_ = box->enableWord_;
-    dirtyWord_ = box->dirtyWord_;
-    highlightWord_ = box->highlightWord_;
-    insertPointVisibleWord_ = box->insertPointVisibleWord_;
-    visibleWord_ = box->visibleWord_;
     shadowShown_ = box->shadowShown_;
     shadow_ = box->shadow_;
     borderShown_ = box->borderShown_;

@@ -6,11 +6,12 @@
 #include <string>
 
 #include "document/KomaObject.h"
+#include "objects/EntryState.h"
 #include "objects/TextLook.h"
 
 namespace tolva {
 
-class ctlKOMATextbox : public TextLook<KomaObject> {
+class ctlKOMATextbox : public EntryState<TextLook<KomaObject>> {
 public:
     static constexpr int kRowCount = 23;
 
@@ -29,41 +30,12 @@ public:
     void KOMABackline(int line);
     const std::string& KOMABacklineWord() const { return backlineWord_; }
 
-    // The longest text, 0 or more: a negative one is refused with "Invalid
-    // value" under the application's title.
-    int KOMAMaxNumChars() const { return maxNumChars_; }
-    void KOMAMaxNumChars(int count);
-    // The device's positions in the text, kept as given whatever the text.
+    // The first and last characters shown, beside the insert point and
+    // highlight: kept as given whatever the text.
     int KOMALeftCharPos() const { return leftCharPos_; }
     void KOMALeftCharPos(int position) { leftCharPos_ = position; }
     int KOMARightCharPos() const { return rightCharPos_; }
     void KOMARightCharPos(int position) { rightCharPos_ = position; }
-    int KOMAInsertPointCharPos() const { return insertPointCharPos_; }
-    void KOMAInsertPointCharPos(int position) { insertPointCharPos_ = position; }
-    int KOMAHighlightStartCharPos() const { return highlightStart_; }
-    void KOMAHighlightStartCharPos(int position) { highlightStart_ = position; }
-    int KOMAHighlightEndCharPos() const { return highlightEnd_; }
-    void KOMAHighlightEndCharPos(int position) { highlightEnd_ = position; }
-
-    // The six flags, held as "TRUE" or "FALSE".
-    bool KOMAActive() const { return activeWord_ == "TRUE"; }
-    void KOMAActive(bool value) { activeWord_ = Word(value); }
-    bool KOMAEnable() const { return enableWord_ == "TRUE"; }
-    void KOMAEnable(bool value) { enableWord_ = Word(value); }
-    bool KOMADirty() const { return dirtyWord_ == "TRUE"; }
-    void KOMADirty(bool value) { dirtyWord_ = Word(value); }
-    bool KOMAHighlight() const { return highlightWord_ == "TRUE"; }
-    void KOMAHighlight(bool value) { highlightWord_ = Word(value); }
-    bool KOMAInsertPointVisible() const { return insertPointVisibleWord_ == "TRUE"; }
-    void KOMAInsertPointVisible(bool value) { insertPointVisibleWord_ = Word(value); }
-    bool KOMAVisible() const { return visibleWord_ == "TRUE"; }
-    void KOMAVisible(bool value) { visibleWord_ = Word(value); }
-    const std::string& KOMAActiveWord() const { return activeWord_; }
-    const std::string& KOMAEnableWord() const { return enableWord_; }
-    const std::string& KOMADirtyWord() const { return dirtyWord_; }
-    const std::string& KOMAHighlightWord() const { return highlightWord_; }
-    const std::string& KOMAInsertPointVisibleWord() const { return insertPointVisibleWord_; }
-    const std::string& KOMAVisibleWord() const { return visibleWord_; }
 
     // What lblText shows: the text and a hundred full stops after it.
     std::string ShownText() const;
@@ -83,23 +55,11 @@ protected:
     void LayOut() override;
 
 private:
-    static const char* Word(bool value) { return value ? "TRUE" : "FALSE"; }
-
     std::string text_ = "Textbox Text";
     std::string styleWord_ = "TEXTBOX_STYLE_0";
     std::string backlineWord_ = "DOT_LINE";
-    int maxNumChars_ = 256;
     int leftCharPos_ = 0;
     int rightCharPos_ = -1;
-    int insertPointCharPos_ = 0;
-    int highlightStart_ = 0;
-    int highlightEnd_ = 0;
-    std::string activeWord_ = "TRUE";
-    std::string enableWord_ = "TRUE";
-    std::string dirtyWord_ = "FALSE";
-    std::string highlightWord_ = "FALSE";
-    std::string insertPointVisibleWord_ = "FALSE";
-    std::string visibleWord_ = "TRUE";
 
     // The last layout, in screen units.
     bool shadowShown_ = false;
