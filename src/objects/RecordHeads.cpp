@@ -67,4 +67,16 @@ bool ParseHeadA(RecordReader& in, LoadedRecord& record, int groupCount) {
     return in.Word("~F3");
 }
 
+void ApplyHeadA(KomaObject& object, const GroupList& groups) {
+    const int x = ToInt16(groups[1][0]);
+    const int y = ToInt16(groups[1][1]);
+    const int width = ToInt16(groups[1][2]);
+    const int height = ToInt16(groups[1][3]);
+    const double scale = object.PCTwipsToTolvaPixels();
+    object.KOMAName(groups[0][0]);
+    object.KOMABoundsX(x);
+    object.KOMABoundsY(y);
+    object.SetCanvasSize(width * scale, height * scale);
+}
+
 }  // namespace tolva

@@ -26,4 +26,10 @@ void AppendHeadB(LineList& lines, const KomaObject& object, const std::string& s
 // not fit, when a line is not the expected one.
 bool ParseHeadA(RecordReader& in, LoadedRecord& record, int groupCount);
 
+// Applies a parsed head A: group 0's name, group 1's X and Y, and its width
+// and height as the object's screen size. The four numbers are converted
+// before anything is applied, so a value that is no 16-bit number throws
+// RuntimeFailure with the object unchanged.
+void ApplyHeadA(KomaObject& object, const GroupList& groups);
+
 }  // namespace tolva

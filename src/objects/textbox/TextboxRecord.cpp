@@ -64,15 +64,7 @@ void ctlKOMATextbox::SetFromResText(const GroupList& groups, bool& ok) {
         // Every number is converted before anything is applied, so that a
         // failure changes nothing.
         for (int i = 0; i < 6; ++i) numbers[i] = ToInt32(groups[static_cast<std::size_t>(8 + i)][0]);
-        const double scale = PCTwipsToTolvaPixels();
-        const int x = ToInt16(groups[1][0]);
-        const int y = ToInt16(groups[1][1]);
-        const int width = ToInt16(groups[1][2]);
-        const int height = ToInt16(groups[1][3]);
-        KOMAName(groups[0][0]);
-        KOMABoundsX(x);
-        KOMABoundsY(y);
-        SetCanvasSize(width * scale, height * scale);
+        ApplyHeadA(*this, groups);
     } catch (const RuntimeFailure&) {
         return;
     }
