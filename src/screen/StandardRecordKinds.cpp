@@ -13,6 +13,7 @@
 #include "objects/repeatbutton/modRepeatbutton.h"
 #include "objects/string/modString.h"
 #include "objects/field/modField.h"
+#include "objects/line/modLine.h"
 #include "objects/textbox/modTextbox.h"
 
 namespace tolva {
@@ -27,7 +28,7 @@ RecordKinds MakeStandardKinds() {
         {"#BITMAP", type::Bitmap, ParseBitmapRecord, "Could not load bitmap object",
          "Could not create bitmap"},
         {"#FIELD", type::Field, ParseFieldRecord, "Could not load field object", "Could not create field"},
-        {"#LINE", type::Line, nullptr, "Could not load line object", "Could not create line"},
+        {"#LINE", type::Line, ParseLineRecord, "Could not load line object", "Could not create line"},
         {"#LIST", type::List, nullptr, "Could not load list object", "Could not create list"},
         {"#MENU", type::Menu, nullptr, "Could not load menu object", "Could not create menu"},
         {"#SCHLINE", type::SchedulerLine, nullptr, "Could not load SchedulerLine object",

@@ -16,6 +16,7 @@
 #include "objects/repeatbutton/modRepeatbutton.h"
 #include "objects/string/modString.h"
 #include "objects/field/modField.h"
+#include "objects/line/modLine.h"
 #include "objects/textbox/modTextbox.h"
 #include "canvas/qt/CanvasWidget.h"
 #include "platform/QtHost.h"
@@ -57,7 +58,7 @@ const std::vector<ValueListStep>& ValueListSteps() {
         {"push button", type::PushButton, &FillPushButtonValueLists},
         {"textbox", type::Textbox, &FillTextboxValueLists},
         {"field", type::Field, &FillFieldValueLists},
-        {"line", type::Line, nullptr},
+        {"line", type::Line, &FillLineValueLists},
         {"list", type::List, nullptr},
         {"menu", type::Menu, nullptr},
         {"popup trigger", type::PopupTrigger, nullptr},

@@ -1,5 +1,6 @@
 // What the screen does with its objects' events, and the changes that come
 // from the inspector.
+#include "document/ObjectOwner.h"
 #include "screen/ScreenFixture.h"
 
 namespace tolva::testing {
@@ -161,8 +162,8 @@ TEST_F(ScreenObjectEvents, MovedExactlyToTheEdgeStays) {
 TEST_F(ScreenObjectEvents, LineIsNotPulledBack) {
     ASSERT_TRUE(DrawForm());
     ASSERT_TRUE(Draw(type::Line, 10, 10, 46, 30));
-    ASSERT_TRUE(screen.NotifyObjectOfPropertyChange(
-        type::Line, "LINE_1", RowsWith(screen, type::Line, "LINE_1", 2, PropertyCell(150))));
+    // A line's moved event: 150 and its width of 46 run past the edge.
+    static_cast<ObjectOwner&>(screen).ObjectMoved(*Obj(type::Line, 1), 150, 10);
     EXPECT_EQ(Obj(type::Line, 1)->KOMABoundsX(), 150);
     EXPECT_DOUBLE_EQ(Obj(type::Line, 1)->Left(), At(150));
 }
