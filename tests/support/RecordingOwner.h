@@ -19,6 +19,7 @@ public:
     std::set<std::string> takenNames;
     int uniquenessChecks = 0;
     // Every event as a line: "Moved 10,20", "Resized 40,14", "PicChanged",
+    // "LineResized 1,2,30,40",
     // "Deleted", "Selected", "MouseDown 1,0,15,30"...
     std::vector<std::string> events;
     long long stamp = 0;
@@ -48,6 +49,10 @@ public:
         events.push_back("Resized " + std::to_string(w) + "," + std::to_string(h));
     }
     void ObjectPicChanged(KomaObject&) override { events.push_back("PicChanged"); }
+    void ObjectLineResized(KomaObject&, int startX, int startY, int endX, int endY) override {
+        events.push_back("LineResized " + std::to_string(startX) + "," + std::to_string(startY) + "," +
+                         std::to_string(endX) + "," + std::to_string(endY));
+    }
     long long NextStackStamp(bool toFront) override { return toFront ? ++stamp : -(++stamp); }
 
 private:
