@@ -579,3 +579,75 @@ TEST_F(FieldResave, WordsOutOfTheirListsAreReadAsTheFirstOrLeaveTheDefault) {
 
 }  // namespace
 }  // namespace tolva::testing
+
+namespace tolva::testing {
+namespace {
+
+// A Line with every field away from its default, rising to the right: its
+// bounds hold the start point, the box follows from the two end points.
+class LineResave : public ResProgram {
+protected:
+    static std::string FullWith(const std::string& from, const std::string& to) {
+        std::string text = Golden("line_full.txt");
+        const auto at = text.find(from);
+        EXPECT_NE(at, std::string::npos) << from;
+        text.replace(at, from.size(), to);
+        return text;
+    }
+    void SetUp() override {
+        ResProgram::SetUp();
+        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+    }
+};
+
+TEST_F(LineResave, AFullRecordGoesThroughByteForByte) {
+    WriteFile(dir / "in.txt", Golden("line_full.txt"));
+    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("line_full.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("line_full.h"));
+}
+
+// The box's size in the record is worked out anew from the end points.
+TEST_F(LineResave, AStaleBoxSizeGivesWayToTheEndPoints) {
+    WriteFile(dir / "in.txt", FullWith("(SH)BOUNDS.WIDTH=100", "(SH)BOUNDS.WIDTH=162"));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("line_full.txt"));
+}
+
+TEST_F(LineResave, AnEndPointOf160IsRefusedAndTheDefaultKept) {
+    WriteFile(dir / "in.txt", FullWith("(SH)LINE_ENDPT_X=120", "(SH)LINE_ENDPT_X=160"));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(err, "KOMAEndX: Invalid EndX value: 160\n");
+    // The end stays at 24: the box runs from 20 to 24.
+    std::string expected = FullWith("(SH)LINE_ENDPT_X=120", "(SH)LINE_ENDPT_X=24");
+    expected.replace(expected.find("(SH)BOUNDS.WIDTH=100"), 20, "(SH)BOUNDS.WIDTH=4");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), expected);
+}
+
+TEST_F(LineResave, ANegativeThicknessIsRefused) {
+    WriteFile(dir / "in.txt", FullWith("(U)LINE_THICK=3", "(U)LINE_THICK=-2"));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(err, "KOMAThick: Invalid value\n");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), FullWith("(U)LINE_THICK=3", "(U)LINE_THICK=1"));
+}
+
+TEST_F(LineResave, AWordWhereANumberBelongsEndsTheLoad) {
+    WriteFile(dir / "in.txt", FullWith("(SH)LINE_ENDPT_Y=30", "(SH)LINE_ENDPT_Y=3x"));
+    EXPECT_EQ(Run("check in.txt"), 2);
+    EXPECT_EQ(err, "load ended: Type mismatch: \"3x\" is no number\n");
+}
+
+TEST_F(LineResave, AMarkerOutOfPlaceIsReportedAndTheLoadEnds) {
+    WriteFile(dir / "in.txt", FullWith("~F6\r\n(SH)LINE_ENDPT_X", "~F5\r\n(SH)LINE_ENDPT_X"));
+    EXPECT_EQ(Run("check in.txt"), 1);
+    EXPECT_EQ(err,
+              "Tolva Resource Editor: Error on line 68:  ~F5\n"
+              "Load Error: Could not load line object\n"
+              "Load Error: Invalid/unsupported resource object\n"
+              "Tolva Resource Editor: Could not load resource file\n");
+}
+
+}  // namespace
+}  // namespace tolva::testing
