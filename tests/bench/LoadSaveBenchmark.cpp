@@ -230,6 +230,18 @@ void WriteField(std::ostream& out, const std::string& name, int id, int slot) {
     out << "#END_FIELD\r\n";
 }
 
+// A line rising or falling in turn, its bounds holding its start point.
+void WriteLine(std::ostream& out, const std::string& name, int id, int slot) {
+    const int y = 16 + slot * 15;
+    const bool rising = slot % 2 == 1;
+    out << "#LINE\r\nNAME=" << name << "\r\nID=" << id << "\r\n~F0\r\n(B)OBJECT.TYPE=LINE\r\n~F1\r\n"
+        << "(U)RELATED_TABLE_ID=65535\r\n~F2\r\n(SH)BOUNDS.X=125\r\n(SH)BOUNDS.Y=" << (rising ? y + 10 : y)
+        << "\r\n(SH)BOUNDS.WIDTH=30\r\n(SH)BOUNDS.HEIGHT=10\r\n~F3\r\n(B)LINE_COLOR=COLOR_GREY2\r\n"
+        << "~F4\r\n(B)LINE_STYLE=LINE_STYLE_" << slot % 3 << "\r\n~F5\r\n(U)LINE_THICK=2\r\n~F6\r\n"
+        << "(SH)LINE_ENDPT_X=155\r\n~F7\r\n(SH)LINE_ENDPT_Y=" << (rising ? y : y + 10) << "\r\n~F8\r\n"
+        << "(BO)LINE_ATTR.LINE_VISIBLE=TRUE\r\n#END_LINE\r\n";
+}
+
 // The kinds a form holds, in turn: the name prefix, the word of the form's
 // list and the record writer.
 struct ObjectKind {
@@ -246,6 +258,7 @@ const ObjectKind kObjectKinds[] = {
     {"CHECKBOX_", "CONTROL", WriteCheckbox},
     {"TEXTBOX_", "TEXTBOX", WriteTextbox},
     {"FIELD_", "FIELD", WriteField},
+    {"LINE_", "LINE", WriteLine},
 };
 constexpr int kObjectsPerForm = 9;
 
