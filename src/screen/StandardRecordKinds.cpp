@@ -14,6 +14,7 @@
 #include "objects/string/modString.h"
 #include "objects/field/modField.h"
 #include "objects/line/modLine.h"
+#include "objects/schedulerline/modSchline.h"
 #include "objects/textbox/modTextbox.h"
 
 namespace tolva {
@@ -31,7 +32,7 @@ RecordKinds MakeStandardKinds() {
         {"#LINE", type::Line, ParseLineRecord, "Could not load line object", "Could not create line"},
         {"#LIST", type::List, nullptr, "Could not load list object", "Could not create list"},
         {"#MENU", type::Menu, nullptr, "Could not load menu object", "Could not create menu"},
-        {"#SCHLINE", type::SchedulerLine, nullptr, "Could not load SchedulerLine object",
+        {"#SCHLINE", type::SchedulerLine, ParseSchlineRecord, "Could not load SchedulerLine object",
          "Could not create scheduler line"},
         {"#SCROLLBAR", type::Scrollbar, nullptr, "Could not load scrollbar object",
          "Could not create scrollbar"},

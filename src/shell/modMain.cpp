@@ -17,6 +17,7 @@
 #include "objects/string/modString.h"
 #include "objects/field/modField.h"
 #include "objects/line/modLine.h"
+#include "objects/schedulerline/modSchline.h"
 #include "objects/textbox/modTextbox.h"
 #include "canvas/qt/CanvasWidget.h"
 #include "platform/QtHost.h"
@@ -63,7 +64,7 @@ const std::vector<ValueListStep>& ValueListSteps() {
         {"menu", type::Menu, nullptr},
         {"popup trigger", type::PopupTrigger, nullptr},
         {"scrollbar", type::Scrollbar, nullptr},
-        {"scheduler line", type::SchedulerLine, nullptr},
+        {"scheduler line", type::SchedulerLine, &FillSchlineValueLists},
         {"table", type::Table, nullptr},
     };
     return steps;
