@@ -242,6 +242,14 @@ void WriteLine(std::ostream& out, const std::string& name, int id, int slot) {
         << "(BO)LINE_ATTR.LINE_VISIBLE=TRUE\r\n#END_LINE\r\n";
 }
 
+// A scheduler line under the others' column, active in every other slot.
+void WriteSchedulerLine(std::ostream& out, const std::string& name, int id, int slot) {
+    out << "#SCHLINE\r\nNAME=" << name << "\r\nID=" << id << "\r\n~F0\r\n(B)OBJECT.TYPE=SCHLINE\r\n"
+        << "~F1\r\n(SH)BOUNDS.X=3\r\n(SH)BOUNDS.Y=" << 16 + slot * 15 << "\r\n(SH)BOUNDS.WIDTH=154\r\n"
+        << "(SH)BOUNDS.HEIGHT=14\r\n~F2\r\n(BO)SCHLINE_ATTR.ENABLE=TRUE\r\n(BO)SCHLINE_ATTR.ACTIVE="
+        << (slot % 2 ? "TRUE" : "FALSE") << "\r\n(BO)SCHLINE_ATTR.VISIBLE=TRUE\r\n#END_SCHLINE\r\n";
+}
+
 // The kinds a form holds, in turn: the name prefix, the word of the form's
 // list and the record writer.
 struct ObjectKind {
@@ -259,6 +267,7 @@ const ObjectKind kObjectKinds[] = {
     {"TEXTBOX_", "TEXTBOX", WriteTextbox},
     {"FIELD_", "FIELD", WriteField},
     {"LINE_", "LINE", WriteLine},
+    {"SCHEDULERLINE_", "SCHLINE", WriteSchedulerLine},
 };
 constexpr int kObjectsPerForm = 9;
 

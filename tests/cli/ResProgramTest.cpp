@@ -651,3 +651,49 @@ TEST_F(LineResave, AMarkerOutOfPlaceIsReportedAndTheLoadEnds) {
 
 }  // namespace
 }  // namespace tolva::testing
+
+namespace tolva::testing {
+namespace {
+
+// A Scheduler line with its three flags away from their defaults.
+class SchedulerLineResave : public ResProgram {
+protected:
+    static std::string FullWith(const std::string& from, const std::string& to) {
+        std::string text = Golden("schedulerline_full.txt");
+        const auto at = text.find(from);
+        EXPECT_NE(at, std::string::npos) << from;
+        text.replace(at, from.size(), to);
+        return text;
+    }
+    void SetUp() override {
+        ResProgram::SetUp();
+        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+    }
+};
+
+TEST_F(SchedulerLineResave, AFullRecordGoesThroughByteForByte) {
+    WriteFile(dir / "in.txt", Golden("schedulerline_full.txt"));
+    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("schedulerline_full.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("schedulerline_full.h"));
+}
+
+TEST_F(SchedulerLineResave, AMarkerOutOfPlaceIsReportedAndTheLoadEnds) {
+    WriteFile(dir / "in.txt", FullWith("~F2\r\n//TRUE", "~F3\r\n//TRUE"));
+    EXPECT_EQ(Run("check in.txt"), 1);
+    EXPECT_EQ(err,
+              "Tolva Resource Editor: Error on line 57:  ~F3\n"
+              "Load Error: Could not load SchedulerLine object\n"
+              "Load Error: Invalid/unsupported resource object\n"
+              "Tolva Resource Editor: Could not load resource file\n");
+}
+
+TEST_F(SchedulerLineResave, AWidthBeyondTheScreenIsRefusedAndTheLoadGoesOn) {
+    WriteFile(dir / "in.txt", FullWith("(SH)BOUNDS.WIDTH=154", "(SH)BOUNDS.WIDTH=170"));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(err, "Tolva Resource Editor: Invalid value\n");
+}
+
+}  // namespace
+}  // namespace tolva::testing
