@@ -15,6 +15,7 @@
 #include "objects/field/modField.h"
 #include "objects/line/modLine.h"
 #include "objects/schedulerline/modSchline.h"
+#include "objects/scrollbar/modScrollbar.h"
 #include "objects/textbox/modTextbox.h"
 
 namespace tolva {
@@ -34,7 +35,7 @@ RecordKinds MakeStandardKinds() {
         {"#MENU", type::Menu, nullptr, "Could not load menu object", "Could not create menu"},
         {"#SCHLINE", type::SchedulerLine, ParseSchlineRecord, "Could not load SchedulerLine object",
          "Could not create scheduler line"},
-        {"#SCROLLBAR", type::Scrollbar, nullptr, "Could not load scrollbar object",
+        {"#SCROLLBAR", type::Scrollbar, ParseScrollbarRecord, "Could not load scrollbar object",
          "Could not create scrollbar"},
         {"#STRING", type::String, ParseStringRecord, "Could not load string object",
          "Could not create string"},

@@ -18,6 +18,7 @@
 #include "objects/field/modField.h"
 #include "objects/line/modLine.h"
 #include "objects/schedulerline/modSchline.h"
+#include "objects/scrollbar/modScrollbar.h"
 #include "objects/textbox/modTextbox.h"
 #include "canvas/qt/CanvasWidget.h"
 #include "platform/QtHost.h"
@@ -63,7 +64,7 @@ const std::vector<ValueListStep>& ValueListSteps() {
         {"list", type::List, nullptr},
         {"menu", type::Menu, nullptr},
         {"popup trigger", type::PopupTrigger, nullptr},
-        {"scrollbar", type::Scrollbar, nullptr},
+        {"scrollbar", type::Scrollbar, &FillScrollbarValueLists},
         {"scheduler line", type::SchedulerLine, &FillSchlineValueLists},
         {"table", type::Table, nullptr},
     };

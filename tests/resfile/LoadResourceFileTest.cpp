@@ -88,11 +88,11 @@ TEST_F(LoadTest, AMissingFileIsARunTimeFailure) {
 }
 
 TEST_F(LoadTest, ASectionNoKindReadsYetEndsTheLoadOfAFile) {
-    WriteBytes(path, Text(Record("#SCROLLBAR", "SCROLLBAR_1", 0)));
+    WriteBytes(path, Text(Record("#TABLE", "TABLE_1", 0)));
     EXPECT_FALSE(LoadResourceFile(screen, path));
     EXPECT_EQ(host.MessageLines(),
               std::vector<std::string>{"Load Error: Invalid/unsupported resource object"});
-    EXPECT_EQ(screen.NumScrollbars(), 0);
+    EXPECT_EQ(screen.NumTables(), 0);
 }
 
 TEST_F(LoadTest, AFailureWhileScanningLeavesNothingOnTheScreen) {
