@@ -60,6 +60,9 @@ int ctlKOMAScrollbar::KOMAScrollbarStyle() {
     return ScrollbarStyleWordToNumber(styleWord_);
 }
 
+// The word only: a pair the new style does not allow is repaired when the
+// style is next read (the inspector reads it as soon as the rows are
+// applied).
 void ctlKOMAScrollbar::KOMAScrollbarStyle(int style) {
     styleWord_ = ScrollbarStyleNumberToWord(style);
     LayOut();
@@ -73,6 +76,7 @@ void ctlKOMAScrollbar::RepairOrientation() {
     if (!KOMAName().empty())
         Log(KOMAName() + ": Changed scrollbar orientation to " + orientationWord_ +
             ".  Since other orientation not supported");
+    LayOut();
 }
 
 void ctlKOMAScrollbar::KOMAText(const std::string& text) {
