@@ -250,6 +250,22 @@ void WriteSchedulerLine(std::ostream& out, const std::string& name, int id, int 
         << (slot % 2 ? "TRUE" : "FALSE") << "\r\n(BO)SCHLINE_ATTR.VISIBLE=TRUE\r\n#END_SCHLINE\r\n";
 }
 
+// An upright scroll bar of style 0 with ICON.BMP for both arrows.
+void WriteScrollbar(std::ostream& out, const std::string& name, int id, int slot) {
+    WriteHeadA(out, "#SCROLLBAR", name, id, "SCROLLBAR", 150, 16 + slot * 15, 10, 14);
+    out << "(W)SCROLLBAR_MAX=20\r\n~F4\r\n(W)SCROLLBAR_MIN=0\r\n~F5\r\n(W)SCROLLBAR_CURRENT_VALUE="
+        << slot << "\r\n~F6\r\n(W)SCROLLBAR_PAGESIZE=2\r\n~F7\r\n(W)SCROLLBAR_TOTAL_NUM_LINES=21\r\n"
+        << "~F8\r\n(B)SCROLLBAR_STYLE=VERTICAL\r\n~F9\r\n(B)SCROLLBAR_TYPE=SCROLLBAR_STYLE_0\r\n";
+    for (const char* arrow : {"ARROW1", "ARROW2"})
+        out << (arrow[5] == '1' ? "~F10" : "~F11") << "\r\n(SH)SCROLLBAR_" << arrow
+            << "_BITMAP.X=150\r\n(SH)SCROLLBAR_" << arrow << "_BITMAP.Y=" << 16 + slot * 15
+            << "\r\n(SH)SCROLLBAR_" << arrow << "_BITMAP.WIDTH=10\r\n(SH)SCROLLBAR_" << arrow
+            << "_BITMAP.HEIGHT=10\r\n(P)SCROLLBAR_" << arrow << "_BITMAP.FILE=Q_FOUR_BIT,ICON.BMP\r\n";
+    out << "~F12\r\n(S)SCROLLBAR_TEXT=Bar " << id << "\r\n~F13\r\n"
+        << "(BO)SCROLLBAR_ATTR.SCROLLBAR_ACTIVE=TRUE\r\n(BO)SCROLLBAR_ATTR.SCROLLBAR_ENABLE=TRUE\r\n"
+        << "(BO)SCROLLBAR_ATTR.SCROLLBAR_VISIBLE=TRUE\r\n#END_SCROLLBAR\r\n";
+}
+
 // The kinds a form holds, in turn: the name prefix, the word of the form's
 // list and the record writer.
 struct ObjectKind {
@@ -268,6 +284,7 @@ const ObjectKind kObjectKinds[] = {
     {"FIELD_", "FIELD", WriteField},
     {"LINE_", "LINE", WriteLine},
     {"SCHEDULERLINE_", "SCHLINE", WriteSchedulerLine},
+    {"SCROLLBAR_", "SCROLLBAR", WriteScrollbar},
 };
 constexpr int kObjectsPerForm = 9;
 

@@ -697,3 +697,83 @@ TEST_F(SchedulerLineResave, AWidthBeyondTheScreenIsRefusedAndTheLoadGoesOn) {
 
 }  // namespace
 }  // namespace tolva::testing
+
+namespace tolva::testing {
+namespace {
+
+// A level Scrollbar of style 1 with both arrows, every field away from its
+// default; the arrows' sizes are their pictures'.
+class ScrollbarResave : public ResProgram {
+protected:
+    static std::string FullWith(const std::string& from, const std::string& to) {
+        std::string text = Golden("scrollbar_full.txt");
+        const auto at = text.find(from);
+        EXPECT_NE(at, std::string::npos) << from;
+        text.replace(at, from.size(), to);
+        return text;
+    }
+    void SetUp() override {
+        ResProgram::SetUp();
+        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+        WriteFile(dir / "LEFT.BMP", BmpBytes(6, 8));
+        WriteFile(dir / "RIGHT.BMP", BmpBytes(6, 8));
+    }
+};
+
+TEST_F(ScrollbarResave, AFullRecordGoesThroughByteForByte) {
+    WriteFile(dir / "in.txt", Golden("scrollbar_full.txt"));
+    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("scrollbar_full.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("scrollbar_full.h"));
+}
+
+TEST_F(ScrollbarResave, TheOtherPageSizeKeyComesBackAsTheFirst) {
+    WriteFile(dir / "in.txt", FullWith("(W)SCROLLBAR_PAGESIZE=4", "(W)SCROLLBAR_PAGE_SIZE=4"));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("scrollbar_full.txt"));
+}
+
+TEST_F(ScrollbarResave, ACurrentValueOutsideTheRangeIsKept) {
+    const std::string text = FullWith("(W)SCROLLBAR_CURRENT_VALUE=5", "(W)SCROLLBAR_CURRENT_VALUE=50");
+    WriteFile(dir / "in.txt", text);
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(err, "");
+    EXPECT_EQ(ReadFile(dir / "out.txt"), text);
+}
+
+// The style allows only the level bar: the file's upright one is turned.
+TEST_F(ScrollbarResave, AnOrientationTheStyleDoesNotAllowIsTurnedAround) {
+    WriteFile(dir / "in.txt", FullWith("(B)SCROLLBAR_STYLE=HORIZONTAL", "(B)SCROLLBAR_STYLE=VERTICAL"));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("scrollbar_full.txt"));
+}
+
+TEST_F(ScrollbarResave, AMissingArrowIsToldAndWrittenBackAsTheDefaultFile) {
+    WriteFile(dir / "in.txt", FullWith("Q_TWO_BIT,LEFT.BMP", "Q_TWO_BIT,GONE.BMP"));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(err, "Tolva Resource Editor: Bitmap not found\n");
+    EXPECT_EQ(ReadFile(dir / "out.txt"),
+              FullWith("(P)SCROLLBAR_ARROW1_BITMAP.FILE=Q_TWO_BIT,LEFT.BMP",
+                       "//You did not specify a bitmap so this section has been left blank\r\n"
+                       "(P)SCROLLBAR_ARROW1_BITMAP.FILE=Q_TWO_BIT,ScrollUp.bmp"));
+}
+
+TEST_F(ScrollbarResave, ARangeBeyondSixteenBitsIsAnErrorOfTheRecord) {
+    WriteFile(dir / "in.txt", FullWith("(W)SCROLLBAR_MAX=20", "(W)SCROLLBAR_MAX=70000"));
+    EXPECT_EQ(Run("check in.txt"), 0);
+    EXPECT_EQ(err.rfind("Error: Scrollbar - SetFromResText\n", 0), 0u) << err;
+}
+
+TEST_F(ScrollbarResave, AnArrowFileOfAnotherDepthIsReportedAndTheLoadEnds) {
+    WriteFile(dir / "in.txt", FullWith("Q_FOUR_BIT,RIGHT.BMP", "Q_EIGHT_BIT,RIGHT.BMP"));
+    EXPECT_EQ(Run("check in.txt"), 1);
+    EXPECT_EQ(err,
+              "Tolva Resource Editor: Error on line 87:  (P)SCROLLBAR_ARROW2_BITMAP.FILE=Q_EIGHT_BIT,RIGHT.BMP\n"
+              "Load Error: Could not load scrollbar object\n"
+              "Load Error: Invalid/unsupported resource object\n"
+              "Tolva Resource Editor: Could not load resource file\n");
+}
+
+}  // namespace
+}  // namespace tolva::testing
