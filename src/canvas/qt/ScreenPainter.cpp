@@ -120,10 +120,14 @@ void ScreenPainter::PaintGrid(QPainter& painter, const ctlTolvaScreen& screen) {
 void ScreenPainter::PaintObject(QPainter& painter, const KomaObject& object) {
     const DrawElementList elements = object.GetDrawElements();
     painter.save();
-    // An object shows nothing outside its own box.
-    painter.setClipRect(
-        ToPixels(CanvasRect{object.Left(), object.Top(), object.Width(), object.Height()}),
-        Qt::IntersectClip);
+    // An object shows nothing outside its own box, which is one device pixel
+    // at the least: a level or upright line has no height or width of its
+    // own, and is a row of pixels on the device all the same.
+    const double least = std::max(0.0, object.PCTwipsToTolvaPixels());
+    painter.setClipRect(ToPixels(CanvasRect{object.Left(), object.Top(),
+                                            std::max(object.Width(), least),
+                                            std::max(object.Height(), least)}),
+                        Qt::IntersectClip);
     for (const DrawElement& element : elements)
         PaintElement(painter, element, object.Left(), object.Top());
     painter.restore();
@@ -137,6 +141,17 @@ void ScreenPainter::PaintElement(QPainter& painter, const DrawElement& element, 
     const QRectF box = ToPixels(placed);
     switch (element.kind) {
         case DrawElementKind::Shape: {
+            if (!element.outline && element.filled && !element.rounded) {
+                // A plain block lies on whole desktop pixels, one at the
+                // least: a bar thinner than a pixel still shows, crisply.
+                auto edge = [&](double units) { return std::round(ToPixels(units)); };
+                const double l = edge(placed.left), t = edge(placed.top);
+                const double r = std::max(l + 1, edge(placed.left + placed.width));
+                const double b = std::max(t + 1, edge(placed.top + placed.height));
+                if (placed.width > 0 && placed.height > 0)
+                    painter.fillRect(QRectF(l, t, r - l, b - t), ToQColor(element.fillColor));
+                break;
+            }
             QPen pen(Qt::NoPen);
             double penWidth = 0;
             if (element.outline) {

@@ -2,6 +2,8 @@
 // screen units or more each way) shows lnLine across it, two desktop pixels
 // wide, on the object's light grey background; the slope picks the corners.
 // A thinner box is the line itself: black, with its outline on.
+#include <algorithm>
+
 #include "objects/line/ctlKOMALine.h"
 
 namespace tolva {
@@ -26,7 +28,10 @@ DrawElementList ctlKOMALine::GetDrawElements() const {
     const double w = Width();
     const double h = Height();
     const bool diagonal = IsDiagonal();
-    DrawElement back = ShapeElement("shpBackground", {0, 0, w, h});
+    // A bar is one device pixel thick at the least, as the device draws it.
+    const double p = PCTwipsToTolvaPixels();
+    DrawElement back = ShapeElement(
+        "shpBackground", diagonal ? CanvasRect{0, 0, w, h} : CanvasRect{0, 0, std::max(w, p), std::max(h, p)});
     back.filled = true;
     back.fillColor = diagonal ? kBackground : kBlack;
     back.outline = !diagonal;

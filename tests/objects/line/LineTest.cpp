@@ -140,6 +140,8 @@ TEST_F(LineTest, ALineOfWidthZeroOrOnePixelIsABlackBarAndUpright) {
     line.SetCanvasSize(0, 80 * 36.59);
     EXPECT_EQ(line.KOMAWidth(), 0);
     EXPECT_EQ(line.KOMAEndX(), 30);
+    // A bar of no width is still one device pixel wide on the screen.
+    EXPECT_EQ(Named(line.GetDrawElements(), "shpBackground").rect, (CanvasRect{0, 0, 36.59, 80 * 36.59}));
 }
 
 TEST_F(LineTest, ALowBoxMakesTheLineLevel) {
