@@ -619,7 +619,7 @@ TEST_F(LineResave, AStaleBoxSizeGivesWayToTheEndPoints) {
 TEST_F(LineResave, AnEndPointOf160IsRefusedAndTheDefaultKept) {
     WriteFile(dir / "in.txt", FullWith("(SH)LINE_ENDPT_X=120", "(SH)LINE_ENDPT_X=160"));
     EXPECT_EQ(Run("resave in.txt out.txt"), 0);
-    EXPECT_EQ(err, "KOMAEndX: Invalid EndX value: 160\n");
+    EXPECT_EQ(err, "Tolva Resource Editor: Invalid EndX value: 160\n");
     // The end stays at 24: the box runs from 20 to 24.
     std::string expected = FullWith("(SH)LINE_ENDPT_X=120", "(SH)LINE_ENDPT_X=24");
     expected.replace(expected.find("(SH)BOUNDS.WIDTH=100"), 20, "(SH)BOUNDS.WIDTH=4");

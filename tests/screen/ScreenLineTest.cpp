@@ -101,11 +101,11 @@ TEST_F(ScreenLine, MovedLineIsNotPulledBackAndKeepsItsTwoNodes) {
 TEST_F(ScreenLine, EndPointSettersCheckTheirRange) {
     line->KOMAEndX(160);
     EXPECT_EQ(host.MessageLines(),
-              (std::vector<std::string>{"KOMAEndX: Invalid EndX value: 160"}));
+              (std::vector<std::string>{"Tolva Resource Editor: Invalid EndX value: 160"}));
     host.ClearRecord();
     line->KOMAEndY(-1);
     EXPECT_EQ(host.MessageLines(),
-              (std::vector<std::string>{"KOMAEndY: Invalid EndY value: -1"}));
+              (std::vector<std::string>{"Tolva Resource Editor: Invalid EndY value: -1"}));
     host.ClearRecord();
     // A start of 160 to 164 is taken as 159.
     line->KOMAStartX(164);
@@ -116,7 +116,7 @@ TEST_F(ScreenLine, EndPointSettersCheckTheirRange) {
     line->KOMAStartX(165);
     EXPECT_EQ(line->KOMAStartX(), 159);
     EXPECT_EQ(host.MessageLines(),
-              (std::vector<std::string>{"KOMAStartX: Invalid StartX value: 165"}));
+              (std::vector<std::string>{"Tolva Resource Editor: Invalid StartX value: 165"}));
 }
 
 TEST_F(ScreenLine, CopyTakesTheEndPointsAndTheSlope) {

@@ -84,7 +84,7 @@ TEST_F(LinesByHand, DrawnInBothSlopesTheirEndsDraggedSavedOpenedAndSavedAgain) {
     // Typed end points: one refused, one taken.
     host.ClearRecord();
     Enter(4, "160");
-    EXPECT_EQ(host.MessageLines(), (std::vector<std::string>{"KOMAEndX: Invalid EndX value: 160"}));
+    EXPECT_EQ(host.MessageLines(), (std::vector<std::string>{"Tolva Resource Editor: Invalid EndX value: 160"}));
     EXPECT_EQ(Row(4), QString::number(rising->KOMAEndX()));
     host.ClearRecord();
     Enter(4, "150");

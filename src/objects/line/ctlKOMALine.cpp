@@ -27,7 +27,7 @@ void ctlKOMALine::KOMAHeight(int height) { KomaObject::KOMAHeight(PullIn(height)
 void ctlKOMALine::KOMAStartX(int x) {
     x = PullIn(x);
     if (!IsDevicePosition(x)) {
-        Message("Invalid StartX value: " + std::to_string(x), "KOMAStartX");
+        Message("Invalid StartX value: " + std::to_string(x));
         return;
     }
     startX_ = x;
@@ -36,7 +36,7 @@ void ctlKOMALine::KOMAStartX(int x) {
 void ctlKOMALine::KOMAStartY(int y) {
     y = PullIn(y);
     if (!IsDevicePosition(y)) {
-        Message("Invalid StartY value: " + std::to_string(y), "KOMAStartY");
+        Message("Invalid StartY value: " + std::to_string(y));
         return;
     }
     startY_ = y;
@@ -44,7 +44,7 @@ void ctlKOMALine::KOMAStartY(int y) {
 
 void ctlKOMALine::KOMAEndX(int x) {
     if (!IsDevicePosition(x)) {
-        Message("Invalid EndX value: " + std::to_string(x), "KOMAEndX");
+        Message("Invalid EndX value: " + std::to_string(x));
         return;
     }
     endX_ = x;
@@ -52,7 +52,7 @@ void ctlKOMALine::KOMAEndX(int x) {
 
 void ctlKOMALine::KOMAEndY(int y) {
     if (!IsDevicePosition(y)) {
-        Message("Invalid EndY value: " + std::to_string(y), "KOMAEndY");
+        Message("Invalid EndY value: " + std::to_string(y));
         return;
     }
     endY_ = y;

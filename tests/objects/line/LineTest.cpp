@@ -54,7 +54,7 @@ TEST_F(LineTest, AnEndPointOf160IsRefusedThoughABoxWidthOf160IsLegal) {
     EXPECT_EQ(line.KOMAEndX(), 24);
     EXPECT_EQ(line.KOMAEndY(), 0);
     EXPECT_EQ(owner.host.MessageLines(),
-              (Lines{"KOMAEndX: Invalid EndX value: 160", "KOMAEndY: Invalid EndY value: -1"}));
+              (Lines{"Tolva Resource Editor: Invalid EndX value: 160", "Tolva Resource Editor: Invalid EndY value: -1"}));
     owner.host.ClearRecord();
     line.KOMAWidth(160);
     line.KOMAHeight(164);
@@ -75,7 +75,7 @@ TEST_F(LineTest, TheStartTakes160To164As159) {
     line.KOMAStartX(165);
     line.KOMAStartY(-3);
     EXPECT_EQ(owner.host.MessageLines(),
-              (Lines{"KOMAStartX: Invalid StartX value: 165", "KOMAStartY: Invalid StartY value: -3"}));
+              (Lines{"Tolva Resource Editor: Invalid StartX value: 165", "Tolva Resource Editor: Invalid StartY value: -3"}));
     EXPECT_EQ(line.KOMAStartX(), 159);
 }
 
@@ -224,7 +224,7 @@ TEST_F(LineTest, ARefusedEndPointInTheRowsLeavesTheOthersApplied) {
     rows.At(3, 4) = PropertyCell(std::string("160"));
     rows.At(3, 5) = PropertyCell(std::string("90"));
     ASSERT_TRUE(line.SetPropertyList(rows));
-    EXPECT_EQ(owner.host.MessageLines(), (Lines{"KOMAEndX: Invalid EndX value: 160"}));
+    EXPECT_EQ(owner.host.MessageLines(), (Lines{"Tolva Resource Editor: Invalid EndX value: 160"}));
     EXPECT_EQ(line.KOMAEndX(), 24);
     EXPECT_EQ(line.KOMAEndY(), 90);
 }
