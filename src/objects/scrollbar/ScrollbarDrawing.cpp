@@ -28,6 +28,18 @@ constexpr double kOutlineWidth = 15;  // one desktop pixel
 
 }  // namespace
 
+void ctlKOMAScrollbar::OnCanvasResize() {
+    if (resizing_) return;
+    resizing_ = true;
+    KomaObject::OnCanvasResize();
+    const double p = PCTwipsToTolvaPixels();
+    if (p != 0 && (Width() != KOMAWidth() * p || Height() != KOMAHeight() * p)) {
+        SetCanvasSize(KOMAWidth() * p, KOMAHeight() * p);
+        LayOut();
+    }
+    resizing_ = false;
+}
+
 void ctlKOMAScrollbar::LayOut() {
     const double w = Width();
     const double h = Height();

@@ -86,6 +86,9 @@ public:
     void MouseDown(int button, int shift, double x, double y) override;
 
 protected:
+    // The model's size follows the screen's, and the screen's is then set
+    // back to the exact multiple of a device pixel.
+    void OnCanvasResize() override;
     void LayOut() override;
 
 private:
@@ -111,6 +114,10 @@ private:
     std::string visibleWord_ = "TRUE";
     ObjectPicture arrow1_{0, 0, 0, 0, "", 4, false, 0, 0};
     ObjectPicture arrow2_{0, 0, 0, 0, "", 4, false, 0, 0};
+
+    // Set while the screen size is set back, so that the nested resize
+    // does nothing.
+    bool resizing_ = false;
 
     // The last layout, in screen units.
     bool barShown_ = true;

@@ -409,3 +409,19 @@ TEST_F(ScrollbarRecordTest, AppliedGroupsOfAnotherShapeChangeNothingAndABadNumbe
 
 }  // namespace
 }  // namespace tolva::testing
+
+namespace tolva::testing {
+namespace {
+
+TEST(ScrollbarSize, TheScreenSizeIsSetBackToWholeDevicePixels) {
+    EnsureStringsLoaded();
+    ctlKOMAScrollbar bar;
+    bar.SetCanvasSize(10.4 * 36.59, 60.6 * 36.59);
+    EXPECT_EQ(bar.KOMAWidth(), 10);
+    EXPECT_EQ(bar.KOMAHeight(), 61);
+    EXPECT_DOUBLE_EQ(bar.Width(), 10 * 36.59);
+    EXPECT_DOUBLE_EQ(bar.Height(), 61 * 36.59);
+}
+
+}  // namespace
+}  // namespace tolva::testing
