@@ -75,6 +75,37 @@ protected:
     std::string out;
 };
 
+// The fixture of one kind's golden design, "<stem>.txt" with its header
+// "<stem>.h": the form's picture beside it, the design with one piece of
+// its text replaced, and the design through resave.
+class FullRecordResave : public ResProgram {
+protected:
+    explicit FullRecordResave(std::string stem) : stem_(std::move(stem)) {}
+    void SetUp() override {
+        ResProgram::SetUp();
+        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+    }
+    std::string Full() const { return Golden(stem_ + ".txt"); }
+    std::string FullWith(const std::string& from, const std::string& to) const {
+        std::string text = Full();
+        const auto at = text.find(from);
+        EXPECT_NE(at, std::string::npos) << from;
+        if (at != std::string::npos) text.replace(at, from.size(), to);
+        return text;
+    }
+    // Both files of a resave equal the golden ones, and nothing is said.
+    void ExpectResavedUnchanged() {
+        WriteFile(dir / "in.txt", Full());
+        EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
+        EXPECT_EQ(err, "");
+        EXPECT_EQ(ReadFile(dir / "out.txt"), Full());
+        EXPECT_EQ(ReadFile(dir / "out.h"), Golden(stem_ + ".h"));
+    }
+
+private:
+    std::string stem_;
+};
+
 TEST_F(ResProgram, TheWorkedExamplesFormGoesThroughResaveUnchangedWithItsHeader) {
     WriteFile(dir / "in.txt", Golden("worked_example_form.txt"));
     EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
@@ -455,28 +486,12 @@ namespace {
 
 // A Textbox with every field away from its default: its device state
 // (positions, highlight, insert point) goes through as it was given.
-class TextboxResave : public ResProgram {
+class TextboxResave : public FullRecordResave {
 protected:
-    static std::string FullWith(const std::string& from, const std::string& to) {
-        std::string text = Golden("textbox_full.txt");
-        const auto at = text.find(from);
-        EXPECT_NE(at, std::string::npos) << from;
-        text.replace(at, from.size(), to);
-        return text;
-    }
-    void SetUp() override {
-        ResProgram::SetUp();
-        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
-    }
+    TextboxResave() : FullRecordResave("textbox_full") {}
 };
 
-TEST_F(TextboxResave, AFullRecordGoesThroughByteForByte) {
-    WriteFile(dir / "in.txt", Golden("textbox_full.txt"));
-    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
-    EXPECT_EQ(err, "");
-    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("textbox_full.txt"));
-    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("textbox_full.h"));
-}
+TEST_F(TextboxResave, AFullRecordGoesThroughByteForByte) { ExpectResavedUnchanged(); }
 
 TEST_F(TextboxResave, AMarkerOutOfPlaceIsReportedAndTheLoadEnds) {
     WriteFile(dir / "in.txt", FullWith("~F12\r\n", "~F21\r\n"));
@@ -518,28 +533,12 @@ namespace {
 
 // A Field with every field away from its default, its text holding "/r"
 // as a load leaves it, and its top line on the second of its lines.
-class FieldResave : public ResProgram {
+class FieldResave : public FullRecordResave {
 protected:
-    static std::string FullWith(const std::string& from, const std::string& to) {
-        std::string text = Golden("field_full.txt");
-        const auto at = text.find(from);
-        EXPECT_NE(at, std::string::npos) << from;
-        text.replace(at, from.size(), to);
-        return text;
-    }
-    void SetUp() override {
-        ResProgram::SetUp();
-        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
-    }
+    FieldResave() : FullRecordResave("field_full") {}
 };
 
-TEST_F(FieldResave, AFullRecordGoesThroughByteForByte) {
-    WriteFile(dir / "in.txt", Golden("field_full.txt"));
-    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
-    EXPECT_EQ(err, "");
-    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("field_full.txt"));
-    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("field_full.h"));
-}
+TEST_F(FieldResave, AFullRecordGoesThroughByteForByte) { ExpectResavedUnchanged(); }
 
 // The text wraps into seven lines in the medium font on 80 pixels less
 // the margins: a top line of 40 comes back as the last, 6.
@@ -585,35 +584,19 @@ namespace {
 
 // A Line with every field away from its default, rising to the right: its
 // bounds hold the start point, the box follows from the two end points.
-class LineResave : public ResProgram {
+class LineResave : public FullRecordResave {
 protected:
-    static std::string FullWith(const std::string& from, const std::string& to) {
-        std::string text = Golden("line_full.txt");
-        const auto at = text.find(from);
-        EXPECT_NE(at, std::string::npos) << from;
-        text.replace(at, from.size(), to);
-        return text;
-    }
-    void SetUp() override {
-        ResProgram::SetUp();
-        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
-    }
+    LineResave() : FullRecordResave("line_full") {}
 };
 
-TEST_F(LineResave, AFullRecordGoesThroughByteForByte) {
-    WriteFile(dir / "in.txt", Golden("line_full.txt"));
-    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
-    EXPECT_EQ(err, "");
-    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("line_full.txt"));
-    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("line_full.h"));
-}
+TEST_F(LineResave, AFullRecordGoesThroughByteForByte) { ExpectResavedUnchanged(); }
 
 // The box's size in the record is worked out anew from the end points.
 TEST_F(LineResave, AStaleBoxSizeGivesWayToTheEndPoints) {
     WriteFile(dir / "in.txt", FullWith("(SH)BOUNDS.WIDTH=100", "(SH)BOUNDS.WIDTH=162"));
     EXPECT_EQ(Run("resave in.txt out.txt"), 0);
     EXPECT_EQ(err, "");
-    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("line_full.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Full());
 }
 
 TEST_F(LineResave, AnEndPointOf160IsRefusedAndTheDefaultKept) {
@@ -656,28 +639,12 @@ namespace tolva::testing {
 namespace {
 
 // A Scheduler line with its three flags away from their defaults.
-class SchedulerLineResave : public ResProgram {
+class SchedulerLineResave : public FullRecordResave {
 protected:
-    static std::string FullWith(const std::string& from, const std::string& to) {
-        std::string text = Golden("schedulerline_full.txt");
-        const auto at = text.find(from);
-        EXPECT_NE(at, std::string::npos) << from;
-        text.replace(at, from.size(), to);
-        return text;
-    }
-    void SetUp() override {
-        ResProgram::SetUp();
-        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
-    }
+    SchedulerLineResave() : FullRecordResave("schedulerline_full") {}
 };
 
-TEST_F(SchedulerLineResave, AFullRecordGoesThroughByteForByte) {
-    WriteFile(dir / "in.txt", Golden("schedulerline_full.txt"));
-    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
-    EXPECT_EQ(err, "");
-    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("schedulerline_full.txt"));
-    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("schedulerline_full.h"));
-}
+TEST_F(SchedulerLineResave, AFullRecordGoesThroughByteForByte) { ExpectResavedUnchanged(); }
 
 TEST_F(SchedulerLineResave, AMarkerOutOfPlaceIsReportedAndTheLoadEnds) {
     WriteFile(dir / "in.txt", FullWith("~F2\r\n//TRUE", "~F3\r\n//TRUE"));
@@ -703,35 +670,22 @@ namespace {
 
 // A level Scrollbar of style 1 with both arrows, every field away from its
 // default; the arrows' sizes are their pictures'.
-class ScrollbarResave : public ResProgram {
+class ScrollbarResave : public FullRecordResave {
 protected:
-    static std::string FullWith(const std::string& from, const std::string& to) {
-        std::string text = Golden("scrollbar_full.txt");
-        const auto at = text.find(from);
-        EXPECT_NE(at, std::string::npos) << from;
-        text.replace(at, from.size(), to);
-        return text;
-    }
+    ScrollbarResave() : FullRecordResave("scrollbar_full") {}
     void SetUp() override {
-        ResProgram::SetUp();
-        WriteFile(dir / "FORM.BMP", BmpBytes(10, 12));
+        FullRecordResave::SetUp();
         WriteFile(dir / "LEFT.BMP", BmpBytes(6, 8));
         WriteFile(dir / "RIGHT.BMP", BmpBytes(6, 8));
     }
 };
 
-TEST_F(ScrollbarResave, AFullRecordGoesThroughByteForByte) {
-    WriteFile(dir / "in.txt", Golden("scrollbar_full.txt"));
-    EXPECT_EQ(Run("resave in.txt out.txt out.h"), 0);
-    EXPECT_EQ(err, "");
-    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("scrollbar_full.txt"));
-    EXPECT_EQ(ReadFile(dir / "out.h"), Golden("scrollbar_full.h"));
-}
+TEST_F(ScrollbarResave, AFullRecordGoesThroughByteForByte) { ExpectResavedUnchanged(); }
 
 TEST_F(ScrollbarResave, TheOtherPageSizeKeyComesBackAsTheFirst) {
     WriteFile(dir / "in.txt", FullWith("(W)SCROLLBAR_PAGESIZE=4", "(W)SCROLLBAR_PAGE_SIZE=4"));
     EXPECT_EQ(Run("resave in.txt out.txt"), 0);
-    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("scrollbar_full.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Full());
 }
 
 TEST_F(ScrollbarResave, ACurrentValueOutsideTheRangeIsKept) {
@@ -746,7 +700,7 @@ TEST_F(ScrollbarResave, ACurrentValueOutsideTheRangeIsKept) {
 TEST_F(ScrollbarResave, AnOrientationTheStyleDoesNotAllowIsTurnedAround) {
     WriteFile(dir / "in.txt", FullWith("(B)SCROLLBAR_STYLE=HORIZONTAL", "(B)SCROLLBAR_STYLE=VERTICAL"));
     EXPECT_EQ(Run("resave in.txt out.txt"), 0);
-    EXPECT_EQ(ReadFile(dir / "out.txt"), Golden("scrollbar_full.txt"));
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Full());
 }
 
 TEST_F(ScrollbarResave, AMissingArrowIsToldAndWrittenBackAsTheDefaultFile) {
