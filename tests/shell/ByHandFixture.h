@@ -90,6 +90,22 @@ protected:
         emit combo->activated(index);
     }
 
+    // Saves the design under Save As as <stem>.txt and <stem>.h in the
+    // folder; the text saved.
+    std::string SaveDesignAs(const fs::path& folder, const std::string& stem) {
+        host.fileAnswers = {(folder / (stem + ".txt")).string(), (folder / (stem + ".h")).string()};
+        TriggerMenu("mnuFileSaveAs");
+        return ReadFile(folder / (stem + ".txt"));
+    }
+    // Starts a new design and opens the file into it, with the host's
+    // record cleared.
+    void OpenAnew(const fs::path& file) {
+        TriggerMenu("mnuFileNew");
+        host.ClearRecord();
+        host.fileAnswers = {file.string()};
+        TriggerMenu("mnuFileOpen");
+    }
+
     fs::path dir;
 };
 

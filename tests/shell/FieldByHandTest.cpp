@@ -71,10 +71,7 @@ TEST_F(ByHand, AFieldDrawnTypedEditedSavedOpenedAndSavedAgain) {
     ASSERT_NE(textRow, nullptr);
     EXPECT_TRUE(textRow->text().startsWith("Dear Sir,"));
 
-    const fs::path first = dir / "first.txt";
-    host.fileAnswers = {first.string(), (dir / "first.h").string()};
-    TriggerMenu("mnuFileSaveAs");
-    const std::string saved = ReadFile(first);
+    const std::string saved = SaveDesignAs(dir, "first");
     for (const char* line : {"NAME=NOTES\r\n", "(S)FIELD_TEXT=Dear Sir,/rthank you for the parcel.\r\n",
                              "(B)FIELD_STYLE=FIELD_STYLE_1\r\n", "(B)FIELD_BACK_LINE=GREY_LINE\r\n",
                              "(B)FIELD_FONT=MEDIUM_FONT\r\n", "(B)FIELD_TEXTMENT=CENTRE\r\n",
@@ -83,18 +80,12 @@ TEST_F(ByHand, AFieldDrawnTypedEditedSavedOpenedAndSavedAgain) {
                              "(BO)FIELD_ATTR.FIELD_FULL_SIZE=FALSE\r\n"})
         EXPECT_NE(saved.find(line), std::string::npos) << line;
 
-    TriggerMenu("mnuFileNew");
-    host.ClearRecord();
-    host.fileAnswers = {first.string()};
-    TriggerMenu("mnuFileOpen");
+    OpenAnew(dir / "first.txt");
     ASSERT_EQ(Screen().Count(type::Field), 1);
     // The break comes back as the two characters it was written as.
     field = static_cast<ctlKOMAField*>(Screen().ObjectAt(type::Field, 1));
     EXPECT_EQ(field->KOMAText(), "Dear Sir,/rthank you for the parcel.");
-    const fs::path second = dir / "second.txt";
-    host.fileAnswers = {second.string(), (dir / "second.h").string()};
-    TriggerMenu("mnuFileSaveAs");
-    EXPECT_EQ(ReadFile(second), saved);
+    EXPECT_EQ(SaveDesignAs(dir, "second"), saved);
     EXPECT_EQ(ReadFile(dir / "second.h"), ReadFile(dir / "first.h"));
 }
 

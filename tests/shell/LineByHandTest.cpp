@@ -96,22 +96,13 @@ TEST_F(LinesByHand, DrawnInBothSlopesTheirEndsDraggedSavedOpenedAndSavedAgain) {
     EXPECT_EQ(rising->KOMAColorWord(), "COLOR_GREY1");
     EXPECT_EQ(rising->KOMAThick(), 2);
 
-    const fs::path first = dir / "first.txt";
-    host.fileAnswers = {first.string(), (dir / "first.h").string()};
-    TriggerMenu("mnuFileSaveAs");
-    const std::string saved = ReadFile(first);
+    const std::string saved = SaveDesignAs(dir, "first");
     EXPECT_NE(saved.find("(SH)LINE_ENDPT_X=150\r\n"), std::string::npos);
     EXPECT_NE(saved.find("(U)LINE_THICK=2\r\n"), std::string::npos);
 
-    TriggerMenu("mnuFileNew");
-    host.ClearRecord();
-    host.fileAnswers = {first.string()};
-    TriggerMenu("mnuFileOpen");
+    OpenAnew(dir / "first.txt");
     ASSERT_EQ(Screen().Count(type::Line), 2);
-    const fs::path second = dir / "second.txt";
-    host.fileAnswers = {second.string(), (dir / "second.h").string()};
-    TriggerMenu("mnuFileSaveAs");
-    EXPECT_EQ(ReadFile(second), saved);
+    EXPECT_EQ(SaveDesignAs(dir, "second"), saved);
     EXPECT_EQ(ReadFile(dir / "second.h"), ReadFile(dir / "first.h"));
 }
 

@@ -32,23 +32,14 @@ TEST_F(ByHand, ASchedulerLineDrawnTypedSavedOpenedAndSavedAgain) {
     EXPECT_EQ(line->KOMAWidth(), 150);
     EXPECT_EQ(line->KOMAActiveWord(), "FALSE");
 
-    const fs::path first = dir / "first.txt";
-    host.fileAnswers = {first.string(), (dir / "first.h").string()};
-    TriggerMenu("mnuFileSaveAs");
-    const std::string saved = ReadFile(first);
+    const std::string saved = SaveDesignAs(dir, "first");
     for (const char* text : {"#SCHLINE\r\nNAME=DAY\r\n", "(SH)BOUNDS.WIDTH=150\r\n",
                              "(BO)SCHLINE_ATTR.ACTIVE=FALSE\r\n"})
         EXPECT_NE(saved.find(text), std::string::npos) << text;
 
-    TriggerMenu("mnuFileNew");
-    host.ClearRecord();
-    host.fileAnswers = {first.string()};
-    TriggerMenu("mnuFileOpen");
+    OpenAnew(dir / "first.txt");
     ASSERT_EQ(Screen().Count(type::SchedulerLine), 1);
-    const fs::path second = dir / "second.txt";
-    host.fileAnswers = {second.string(), (dir / "second.h").string()};
-    TriggerMenu("mnuFileSaveAs");
-    EXPECT_EQ(ReadFile(second), saved);
+    EXPECT_EQ(SaveDesignAs(dir, "second"), saved);
     EXPECT_EQ(ReadFile(dir / "second.h"), ReadFile(dir / "first.h"));
 }
 

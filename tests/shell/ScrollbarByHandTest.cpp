@@ -76,10 +76,7 @@ TEST_F(ScrollbarByHand, DrawnTypedGivenArrowsSavedOpenedAndSavedAgain) {
     ASSERT_NE(orientation, nullptr);
     EXPECT_EQ(orientation->currentText(), "HORIZONTAL");
 
-    const std::string first = (fs::current_path() / "FIRST.TXT").string();
-    host.fileAnswers = {first, (fs::current_path() / "FIRST.H").string()};
-    TriggerMenu("mnuFileSaveAs");
-    const std::string saved = ReadFile(first);
+    const std::string saved = SaveDesignAs(fs::current_path(), "FIRST");
     for (const char* line : {"NAME=LEVEL\r\n", "(W)SCROLLBAR_MAX=30\r\n", "(W)SCROLLBAR_CURRENT_VALUE=12\r\n",
                              "(W)SCROLLBAR_PAGESIZE=5\r\n", "(W)SCROLLBAR_TOTAL_NUM_LINES=31\r\n",
                              "(B)SCROLLBAR_STYLE=HORIZONTAL\r\n", "(B)SCROLLBAR_TYPE=SCROLLBAR_STYLE_2\r\n",
@@ -87,16 +84,10 @@ TEST_F(ScrollbarByHand, DrawnTypedGivenArrowsSavedOpenedAndSavedAgain) {
                              "(P)SCROLLBAR_ARROW2_BITMAP.FILE=Q_FOUR_BIT,DOWN.BMP\r\n"})
         EXPECT_NE(saved.find(line), std::string::npos) << line;
 
-    TriggerMenu("mnuFileNew");
-    host.ClearRecord();
-    host.fileAnswers = {first};
-    TriggerMenu("mnuFileOpen");
+    OpenAnew(fs::current_path() / "FIRST.txt");
     ASSERT_EQ(Screen().Count(type::Scrollbar), 1);
-    const std::string second = (fs::current_path() / "SECOND.TXT").string();
-    host.fileAnswers = {second, (fs::current_path() / "SECOND.H").string()};
-    TriggerMenu("mnuFileSaveAs");
-    EXPECT_EQ(ReadFile(second), saved);
-    EXPECT_EQ(ReadFile(fs::current_path() / "SECOND.H"), ReadFile(fs::current_path() / "FIRST.H"));
+    EXPECT_EQ(SaveDesignAs(fs::current_path(), "SECOND"), saved);
+    EXPECT_EQ(ReadFile(fs::current_path() / "SECOND.h"), ReadFile(fs::current_path() / "FIRST.h"));
 }
 
 }  // namespace

@@ -55,10 +55,7 @@ TEST_F(ByHand, ATextboxDrawnTypedSavedOpenedAndSavedAgain) {
     ASSERT_NE(insertPoint, nullptr);
     EXPECT_EQ(insertPoint->currentText(), "FALSE");
 
-    const fs::path first = dir / "first.txt";
-    host.fileAnswers = {first.string(), (dir / "first.h").string()};
-    TriggerMenu("mnuFileSaveAs");
-    const std::string saved = ReadFile(first);
+    const std::string saved = SaveDesignAs(dir, "first");
     for (const char* line : {"NAME=ENTRY\r\n", "(S)TEXTBOX_TEXT=Your name\r\n",
                              "(B)TEXTBOX_STYLE=TEXTBOX_STYLE_1\r\n", "(B)TEXTBOX_BACK_LINE=GREY_LINE\r\n",
                              "(B)TEXTBOX_FONT=MEDIUM_FONT\r\n", "(B)TEXTBOX_FONT_COLOR=COLOR_GREY2\r\n",
@@ -69,15 +66,9 @@ TEST_F(ByHand, ATextboxDrawnTypedSavedOpenedAndSavedAgain) {
         EXPECT_NE(saved.find(line), std::string::npos) << line;
     EXPECT_NE(ReadFile(dir / "first.h").find("#define ENTRY 1\r\n"), std::string::npos);
 
-    TriggerMenu("mnuFileNew");
-    host.ClearRecord();
-    host.fileAnswers = {first.string()};
-    TriggerMenu("mnuFileOpen");
+    OpenAnew(dir / "first.txt");
     ASSERT_EQ(Screen().Count(type::Textbox), 1);
-    const fs::path second = dir / "second.txt";
-    host.fileAnswers = {second.string(), (dir / "second.h").string()};
-    TriggerMenu("mnuFileSaveAs");
-    EXPECT_EQ(ReadFile(second), saved);
+    EXPECT_EQ(SaveDesignAs(dir, "second"), saved);
     EXPECT_EQ(ReadFile(dir / "second.h"), ReadFile(dir / "first.h"));
 }
 

@@ -10,21 +10,22 @@
 #include <string>
 #include <vector>
 
-#include "support/RecordingOwner.h"
+#include "support/OwnedObjectFixture.h"
 #include "support/ShortNamedDirectory.h"
-#include "support/TestStrings.h"
 
 namespace tolva::testing {
 
 template <typename Object>
-class PictureObjectFixture : public ::testing::Test {
+class PictureObjectFixture : public OwnedObjectFixture<Object> {
 protected:
     // name: the object's name; prefix: the working directory's.
     PictureObjectFixture(const char* name, const char* prefix) : name_(name), prefix_(prefix) {}
 
+    using OwnedObjectFixture<Object>::owner;
+    using OwnedObjectFixture<Object>::object;
+
     void SetUp() override {
-        EnsureStringsLoaded();
-        object.SetOwner(&owner);
+        OwnedObjectFixture<Object>::SetUp();
         object.KOMAName(name_);
         workDir_ = std::make_unique<ShortNamedDirectory>(prefix_);
         ASSERT_TRUE(workDir_->Made());
@@ -37,19 +38,11 @@ protected:
         std::ofstream(path) << "BM";
         owner.host.pictures[path] = PictureSize{width, height};
     }
-    PropertyArray Rows() {
-        PropertyArray rows;
-        object.GetPropertyList(rows);
-        return rows;
-    }
     std::vector<std::string> Messages() const { return owner.host.MessageLines(); }
     void Clear() {
         owner.host.ClearRecord();
         owner.events.clear();
     }
-
-    RecordingOwner owner;
-    Object object;
 
 private:
     const char* name_;

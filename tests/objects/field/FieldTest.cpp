@@ -13,7 +13,7 @@
 #include "screen/ScreenFiles.h"
 #include "support/NamedElement.h"
 #include "support/RealFontWidths.h"
-#include "support/RecordingOwner.h"
+#include "support/OwnedObjectFixture.h"
 
 namespace tolva::testing {
 namespace {
@@ -21,25 +21,18 @@ namespace {
 using Lines = std::vector<std::string>;
 constexpr double kP = 36.59;
 
-class FieldTest : public ::testing::Test {
+class FieldTest : public OwnedObjectFixture<ctlKOMAField> {
 protected:
     void SetUp() override {
-        EnsureStringsLoaded();
+        OwnedObjectFixture::SetUp();
         LoadRealFontWidths();
-        field.SetOwner(&owner);
-    }
-    PropertyArray Rows() {
-        PropertyArray rows;
-        field.GetPropertyList(rows);
-        return rows;
     }
     // A field whose text may be `available` device pixels wide and
     // `heightPixels` high.
     void SizeFor(int available, int heightPixels) {
         field.SetCanvasSize(available * kP + 120, heightPixels * kP);
     }
-    RecordingOwner owner;
-    ctlKOMAField field;
+    ctlKOMAField& field = object;
 };
 
 TEST_F(FieldTest, ANewFieldHasItsDefaults) {

@@ -11,26 +11,16 @@
 #include "resfile/ResourceFileFixture.h"
 #include "screen/ScreenFiles.h"
 #include "support/NamedElement.h"
-#include "support/RecordingOwner.h"
+#include "support/OwnedObjectFixture.h"
 
 namespace tolva::testing {
 namespace {
 
 using Lines = std::vector<std::string>;
 
-class LineTest : public ::testing::Test {
+class LineTest : public OwnedObjectFixture<ctlKOMALine> {
 protected:
-    void SetUp() override {
-        EnsureStringsLoaded();
-        line.SetOwner(&owner);
-    }
-    PropertyArray Rows() {
-        PropertyArray rows;
-        line.GetPropertyList(rows);
-        return rows;
-    }
-    RecordingOwner owner;
-    ctlKOMALine line;
+    ctlKOMALine& line = object;
 };
 
 TEST_F(LineTest, ANewLineHasItsDefaults) {

@@ -9,7 +9,7 @@
 #include "resfile/ResourceFileFixture.h"
 #include "screen/ScreenFiles.h"
 #include "support/NamedElement.h"
-#include "support/RecordingOwner.h"
+#include "support/OwnedObjectFixture.h"
 
 namespace tolva::testing {
 namespace {
@@ -17,19 +17,9 @@ namespace {
 using Lines = std::vector<std::string>;
 constexpr double kP = 36.59;
 
-class SchedulerLineTest : public ::testing::Test {
+class SchedulerLineTest : public OwnedObjectFixture<ctlKOMASchedulerLine> {
 protected:
-    void SetUp() override {
-        EnsureStringsLoaded();
-        line.SetOwner(&owner);
-    }
-    PropertyArray Rows() {
-        PropertyArray rows;
-        line.GetPropertyList(rows);
-        return rows;
-    }
-    RecordingOwner owner;
-    ctlKOMASchedulerLine line;
+    ctlKOMASchedulerLine& line = object;
 };
 
 TEST_F(SchedulerLineTest, ANewOneWithoutADrawnRectangleIs40By40) {

@@ -4,17 +4,13 @@
 // read with either page-size key and applied.
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <memory>
-
 #include "document/ObjectTypes.h"
 #include "objects/scrollbar/ctlKOMAScrollbar.h"
 #include "objects/scrollbar/modScrollbar.h"
 #include "resfile/ResourceFileFixture.h"
 #include "screen/ScreenFiles.h"
 #include "support/NamedElement.h"
-#include "support/RecordingOwner.h"
-#include "support/ShortNamedDirectory.h"
+#include "support/PictureObjectFixture.h"
 
 namespace tolva::testing {
 namespace {
@@ -31,31 +27,10 @@ const char* const kValueRefused =
     "Tolva Resource Editor: Invalid scrollbar value.  Make sure the current value is between the "
     "min and max values";
 
-class ScrollbarTest : public ::testing::Test {
+class ScrollbarTest : public PictureObjectFixture<ctlKOMAScrollbar> {
 protected:
-    void SetUp() override {
-        EnsureStringsLoaded();
-        bar.SetOwner(&owner);
-        bar.KOMAName("SCROLLBAR_1");
-        // Pictures are named as the resource compiler finds them, in a
-        // folder of short names.
-        work = std::make_unique<ShortNamedDirectory>("s");
-        ASSERT_TRUE(work->Made());
-    }
-    void TearDown() override { work.reset(); }
-    // A picture file of that size, there for the program to find.
-    void Picture(const std::string& name, int width, int height) {
-        std::ofstream(name) << "BM";
-        owner.host.pictures[name] = PictureSize{width, height};
-    }
-    std::unique_ptr<ShortNamedDirectory> work;
-    PropertyArray Rows() {
-        PropertyArray rows;
-        bar.GetPropertyList(rows);
-        return rows;
-    }
-    RecordingOwner owner;
-    ctlKOMAScrollbar bar;
+    ScrollbarTest() : PictureObjectFixture("SCROLLBAR_1", "s") {}
+    ctlKOMAScrollbar& bar = object;
 };
 
 TEST_F(ScrollbarTest, ANewScrollbarHasItsDefaults) {
@@ -167,8 +142,8 @@ TEST_F(ScrollbarTest, ArrowPlacesAndSizesAreRefusedOutOfTheScreen) {
 }
 
 TEST_F(ScrollbarTest, AnArrowPictureSizesItsArrowAndGrowsAnUprightBar) {
-    Picture("UP.BMP", 14, 8);
-    Picture("DOWN.BMP", 12, 8);
+    MakePicture("UP.BMP", 14, 8);
+    MakePicture("DOWN.BMP", 12, 8);
     bar.KOMABitmapFile(1, "UP.BMP");
     bar.KOMABitmapFile(2, "DOWN.BMP");
     EXPECT_EQ(bar.Arrow(1).file, "UP.BMP");
@@ -181,7 +156,7 @@ TEST_F(ScrollbarTest, AnArrowPictureSizesItsArrowAndGrowsAnUprightBar) {
 }
 
 TEST_F(ScrollbarTest, APictureLargerThanTheScreenIsRefused) {
-    Picture("HUGE.BMP", 10, 170);
+    MakePicture("HUGE.BMP", 10, 170);
     bar.KOMABitmapFile(2, "HUGE.BMP");
     EXPECT_EQ(bar.Arrow(2).file, "");
     ASSERT_EQ(owner.host.messages.size(), 1u);
@@ -191,7 +166,7 @@ TEST_F(ScrollbarTest, APictureLargerThanTheScreenIsRefused) {
 }
 
 TEST_F(ScrollbarTest, StyleZeroPutsTheBarBetweenTheArrows) {
-    Picture("UP.BMP", 10, 8);
+    MakePicture("UP.BMP", 10, 8);
     bar.KOMABitmapFile(1, "UP.BMP");
     bar.KOMABitmapFile(2, "UP.BMP");
     bar.SetCanvasSize(10 * kP, 60 * kP);
@@ -285,7 +260,7 @@ TEST_F(ScrollbarTest, RowsApplyStyleBeforeOrientation) {
 }
 
 TEST_F(ScrollbarTest, AnArrowRowOpensTheChooserAndNothingElseApplies) {
-    Picture("UP.BMP", 10, 8);
+    MakePicture("UP.BMP", 10, 8);
     owner.host.fileAnswers = {"UP.BMP"};
     PropertyArray rows = Rows();
     rows.At(3, 15) = PropertyCell(true);
@@ -298,7 +273,7 @@ TEST_F(ScrollbarTest, AnArrowRowOpensTheChooserAndNothingElseApplies) {
 }
 
 TEST_F(ScrollbarTest, ThePopupMenuSetsEitherArrow) {
-    Picture("DOWN.BMP", 10, 8);
+    MakePicture("DOWN.BMP", 10, 8);
     owner.host.popupAnswers = {1};
     owner.host.fileAnswers = {"DOWN.BMP"};
     bar.MouseDown(kRightButton, 0, 3, 3);

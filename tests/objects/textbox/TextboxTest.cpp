@@ -11,24 +11,14 @@
 #include "resfile/ResourceFileFixture.h"
 #include "screen/ScreenFiles.h"
 #include "support/NamedElement.h"
-#include "support/RecordingOwner.h"
+#include "support/OwnedObjectFixture.h"
 
 namespace tolva::testing {
 namespace {
 
-class TextboxTest : public ::testing::Test {
+class TextboxTest : public OwnedObjectFixture<ctlKOMATextbox> {
 protected:
-    void SetUp() override {
-        EnsureStringsLoaded();
-        box.SetOwner(&owner);
-    }
-    PropertyArray Rows() {
-        PropertyArray rows;
-        box.GetPropertyList(rows);
-        return rows;
-    }
-    RecordingOwner owner;
-    ctlKOMATextbox box;
+    ctlKOMATextbox& box = object;
 };
 
 TEST_F(TextboxTest, ANewTextboxHasItsDefaults) {
