@@ -17,6 +17,7 @@
 #include "objects/string/modString.h"
 #include "objects/field/modField.h"
 #include "objects/line/modLine.h"
+#include "objects/list/modList.h"
 #include "objects/schedulerline/modSchline.h"
 #include "objects/scrollbar/modScrollbar.h"
 #include "objects/textbox/modTextbox.h"
@@ -61,7 +62,7 @@ const std::vector<ValueListStep>& ValueListSteps() {
         {"textbox", type::Textbox, &FillTextboxValueLists},
         {"field", type::Field, &FillFieldValueLists},
         {"line", type::Line, &FillLineValueLists},
-        {"list", type::List, nullptr},
+        {"list", type::List, &FillListValueLists},
         {"menu", type::Menu, nullptr},
         {"popup trigger", type::PopupTrigger, nullptr},
         {"scrollbar", type::Scrollbar, &FillScrollbarValueLists},

@@ -1,0 +1,78 @@
+#pragma once
+// ListEditing: what the List Editor works on, and its rules. It holds a
+// copy of the items with the one check mark of the selection, the top item,
+// the item limit (which is the number on display), and the form's other
+// lists with their link flags. The object takes all of it back on OK only.
+// Refusals are told through the host, with their own titles.
+#include <string>
+#include <vector>
+
+#include "document/DialogModel.h"
+
+namespace tolva {
+
+class Host;
+
+class ListEditing : public DialogModel {
+public:
+    static constexpr const char* kDialogName = "frmList";
+    static constexpr int kFirstItemLimit = 10;
+
+    explicit ListEditing(Host& host) : host_(host) {}
+    std::string DialogName() const override { return kDialogName; }
+
+    // The items, the selected position (kept only when it names an item),
+    // the number on display, which is the limit of items, and the top item
+    // (shown as 0 when it lies outside the list).
+    void SetList(const std::vector<std::string>& items, int selected, int numDisplayed, int topItem);
+    // The names and flags of the other lists, kept when both have one entry
+    // each.
+    void SetRelatedLists(const std::vector<std::string>& names, const std::vector<bool>& flags);
+
+    const std::vector<std::string>& Items() const { return items_; }
+    int Selected() const { return selected_; }
+    int TopItem() const { return topItem_; }
+    int ItemLimit() const { return limit_; }
+    const std::vector<std::string>& RelatedNames() const { return names_; }
+    const std::vector<bool>& RelatedFlags() const { return flags_; }
+    // The choices of the top item: "0" and one more for each item.
+    std::vector<std::string> TopItemChoices() const;
+
+    // A mark set on an item takes it from every other; taken off, nothing is
+    // selected.
+    void Check(int position, bool on);
+    void ChooseTopItem(int topItem) { topItem_ = topItem; }
+    void LinkList(int position, bool on);
+
+    // Adds the trimmed text: refused at the limit ("Maximum number of items
+    // reached", "Limit reached") and for an item already listed ("Duplicate
+    // items not allowed", "List Editor"); an empty text does nothing. True
+    // when added.
+    bool Add(const std::string& text);
+    // Removes the item; the mark stays with its item, and the top item's
+    // last choice goes.
+    void Remove(int position);
+    void RemoveAll();
+    // Swap the item with its neighbour; the answer is where it is now.
+    int MoveUp(int position);
+    int MoveDown(int position);
+    // Sorts the items; the mark stays at its position.
+    void Sort();
+
+    // The text of "Max Num on Display" at OK: a number from 0 to 65534
+    // becomes the limit and the answer is true; anything else is told ("You
+    // must enter a number between 0 and 65534", "Invalid value") and the
+    // dialog stays open.
+    bool Accept(const std::string& maxNumText);
+
+private:
+    Host& host_;
+    std::vector<std::string> items_;
+    int selected_ = -1;
+    int topItem_ = 0;
+    int limit_ = kFirstItemLimit;
+    std::vector<std::string> names_;
+    std::vector<bool> flags_;
+};
+
+}  // namespace tolva
