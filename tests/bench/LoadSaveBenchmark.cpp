@@ -266,6 +266,20 @@ void WriteScrollbar(std::ostream& out, const std::string& name, int id, int slot
         << "(BO)SCROLLBAR_ATTR.SCROLLBAR_VISIBLE=TRUE\r\n#END_SCROLLBAR\r\n";
 }
 
+// A list of five items, the third selected in every other slot.
+void WriteList(std::ostream& out, const std::string& name, int id, int slot) {
+    WriteHeadA(out, "#LIST", name, id, "LIST", 100, 16 + slot * 15, 40, 14);
+    out << "(U)LIST_NUM_RELATED_LIST_OBJECT=0\r\n~F4\r\n~F5\r\n(U)LIST_TOTAL_NUM_ITEMS=5\r\n~F6\r\n"
+        << "(U)LIST_NUM_ITEMS_ON_DISPLAY=5\r\n~F7\r\n(U)LIST_TOP_ITEM_NUM=0\r\n~F8\r\n"
+        << "(B)LIST_TEXTMENT=LEFT\r\n~F9\r\n(SH)LIST_SELECTED_ITEM=" << (slot % 2 ? 2 : -1)
+        << "\r\n~F10\r\n(B)LIST_STYLE=LIST_STYLE_" << slot % 8 << "\r\n~F11\r\n"
+        << "(B)LIST_TEXT_COLOR=COLOR_BLACK\r\n~F12\r\n(B)LIST_BACKGROUND_COLOR=COLOR_WHITE\r\n~F13\r\n";
+    for (int i = 1; i <= 5; ++i) out << "(S)LIST_ITEMS" << i << "=Item " << id << "." << i << "\r\n";
+    out << "~F14\r\n(BO)LIST_ATTR.LIST_ENABLE=TRUE\r\n(BO)LIST_ATTR.LIST_VISIBLE=TRUE\r\n"
+        << "(BO)LIST_ATTR.LIST_ACTIVE=TRUE\r\n(BO)LIST_ATTR.LIST_SET_SCROLL=FALSE\r\n"
+        << "(BO)LIST_ATTR.LIST_SYNCHRONOUS=FALSE\r\n#END_LIST\r\n";
+}
+
 // The kinds a form holds, in turn: the name prefix, the word of the form's
 // list and the record writer.
 struct ObjectKind {
@@ -285,6 +299,7 @@ const ObjectKind kObjectKinds[] = {
     {"LINE_", "LINE", WriteLine},
     {"SCHEDULERLINE_", "SCHLINE", WriteSchedulerLine},
     {"SCROLLBAR_", "SCROLLBAR", WriteScrollbar},
+    {"LIST_", "LIST", WriteList},
 };
 constexpr int kObjectsPerForm = 9;
 

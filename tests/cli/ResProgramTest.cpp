@@ -731,3 +731,48 @@ TEST_F(ScrollbarResave, AnArrowFileOfAnotherDepthIsReportedAndTheLoadEnds) {
 
 }  // namespace
 }  // namespace tolva::testing
+
+namespace tolva::testing {
+namespace {
+
+// Two lists: one with items, a selection, a top item and every word away
+// from its default; one empty with no selection.
+class ListResave : public FullRecordResave {
+protected:
+    ListResave() : FullRecordResave("list_full") {}
+};
+
+TEST_F(ListResave, AFullRecordGoesThroughByteForByte) { ExpectResavedUnchanged(); }
+
+// A count of related lists that the lines do not bear out fails the record
+// at the marker where a related line was wanted.
+TEST_F(ListResave, ARelatedCountWithoutItsLinesFailsAtTheMarker) {
+    WriteFile(dir / "in.txt", FullWith("(U)LIST_NUM_RELATED_LIST_OBJECT=0", "(U)LIST_NUM_RELATED_LIST_OBJECT=1"));
+    EXPECT_EQ(Run("check in.txt"), 1);
+    EXPECT_EQ(err,
+              "Tolva Resource Editor: Error on line 66:  ~F5\n"
+              "Load Error: Could not load list object\n"
+              "Load Error: Invalid/unsupported resource object\n"
+              "Tolva Resource Editor: Could not load resource file\n");
+}
+
+TEST_F(ListResave, AnItemLineOutOfItsPlaceFailsTheRecord) {
+    WriteFile(dir / "in.txt", FullWith("(S)LIST_ITEMS2=Fig", "(S)LIST_ITEMS3=Fig"));
+    EXPECT_EQ(Run("check in.txt"), 1);
+    EXPECT_EQ(err.rfind("Tolva Resource Editor: Error on line 89:  (S)LIST_ITEMS3=Fig\n", 0), 0u) << err;
+}
+
+TEST_F(ListResave, AWordWhereTheTotalBelongsEndsTheLoad) {
+    WriteFile(dir / "in.txt", FullWith("(U)LIST_TOTAL_NUM_ITEMS=3", "(U)LIST_TOTAL_NUM_ITEMS=x3"));
+    EXPECT_EQ(Run("check in.txt"), 2);
+    EXPECT_EQ(err, "load ended: Type mismatch: \"x3\" is no number\n");
+}
+
+TEST_F(ListResave, NoSelectionAsAWordComesBackAsMinusOne) {
+    WriteFile(dir / "in.txt", FullWith("(SH)LIST_SELECTED_ITEM=-1", "(SH)LIST_SELECTED_ITEM=NO_SELECTION"));
+    EXPECT_EQ(Run("resave in.txt out.txt"), 0);
+    EXPECT_EQ(ReadFile(dir / "out.txt"), Full());
+}
+
+}  // namespace
+}  // namespace tolva::testing
