@@ -9,12 +9,16 @@
 
 namespace tolva {
 
-void ListEditing::SetList(const std::vector<std::string>& items, int selected, int numDisplayed,
+int& ListEditing::EditorItemLimit() {
+    static int limit = kFirstItemLimit;
+    return limit;
+}
+
+void ListEditing::SetList(const std::vector<std::string>& items, int selected, int /*numDisplayed*/,
                           int topItem) {
     items_ = items;
     const int count = static_cast<int>(items_.size());
     selected_ = selected >= 0 && selected < count ? selected : -1;
-    limit_ = numDisplayed;
     topItem_ = topItem >= 0 && topItem <= count ? topItem : 0;
 }
 
@@ -91,7 +95,7 @@ int ListEditing::MoveDown(int position) {
 void ListEditing::Sort() {
     std::vector<std::string> sorted = items_;
     SortAscending(sorted);
-    SetList(sorted, selected_, limit_, topItem_);
+    SetList(sorted, selected_, 0, topItem_);
 }
 
 bool ListEditing::Accept(const std::string& maxNumText) {
@@ -101,6 +105,7 @@ bool ListEditing::Accept(const std::string& maxNumText) {
         return false;
     }
     limit_ = static_cast<int>(ToReal(maxNumText));
+    EditorItemLimit() = limit_;
     return true;
 }
 

@@ -11,8 +11,16 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
+// The editor's limit lives on between openings: each test starts at the
+// program's first limit and leaves it there.
+struct FirstItemLimit {
+    FirstItemLimit() { ListEditing::EditorItemLimit() = ListEditing::kFirstItemLimit; }
+    ~FirstItemLimit() { ListEditing::EditorItemLimit() = ListEditing::kFirstItemLimit; }
+};
+
 class ListEditingTest : public ::testing::Test {
 protected:
+    FirstItemLimit first;
     ScriptedHost host;
     ListEditing edit{host};
 };
@@ -48,12 +56,18 @@ TEST_F(ListEditingTest, TheMaximumOnDisplayIsCheckedAtOk) {
     EXPECT_EQ(edit.ItemLimit(), 0);
 }
 
-// The limit is the number on display the list was opened with: with 0, no
-// item can be added.
-TEST_F(ListEditingTest, WithZeroOnDisplayNoItemCanBeAdded) {
-    edit.SetList({}, -1, 0, 0);
-    EXPECT_FALSE(edit.Add("A"));
+// The number on display accepted at OK is the limit of the next opening,
+// whichever list it opens on and whatever that list's own number.
+TEST_F(ListEditingTest, WithZeroOnDisplayNoItemCanBeAddedOnTheNextOpening) {
+    EXPECT_TRUE(edit.Accept("0"));
+    ListEditing next(host);
+    next.SetList({}, -1, 25, 0);
+    EXPECT_EQ(next.ItemLimit(), 0);
+    EXPECT_FALSE(next.Add("A"));
     EXPECT_EQ(host.MessageLines(), (Lines{"Limit reached: Maximum number of items reached"}));
+    EXPECT_TRUE(next.Accept("3"));
+    ListEditing third(host);
+    EXPECT_EQ(third.ItemLimit(), 3);
 }
 
 TEST_F(ListEditingTest, OneCheckMarkAtMost) {

@@ -23,6 +23,8 @@ constexpr double kP = 36.59;
 
 class ListTest : public OwnedObjectFixture<ctlKOMAList> {
 protected:
+    // The editor's limit lives on between openings: put it back.
+    void TearDown() override { ListEditing::EditorItemLimit() = ListEditing::kFirstItemLimit; }
     ctlKOMAList& list = object;
     int Shown(const DrawElementList& elements, const std::string& prefix) {
         int count = 0;

@@ -48,7 +48,7 @@ frmList::frmList(ListEditing& edit, QWidget* parent) : QDialog(parent), edit_(ed
     auto* cmdSort = Button(this, "cmdSort", "Sort Alphabetically");
     cmbTopItemNum_ = new QComboBox(this);
     cmbTopItemNum_->setObjectName("cmbTopItemNum");
-    txtMaxNum_ = new QLineEdit(QString::number(edit_.ItemLimit()), this);
+    txtMaxNum_ = new QLineEdit(QString::number(ListEditing::kFirstItemLimit), this);
     txtMaxNum_->setObjectName("txtMaxNum");
     lbLists_ = new QListWidget(this);
     lbLists_->setObjectName("lbLists");

@@ -55,6 +55,7 @@ class frmListTest : public ScreenTest {
 protected:
     void SetUp() override {
         ScreenTest::SetUp();
+        ListEditing::EditorItemLimit() = ListEditing::kFirstItemLimit;
         RegisterObjectDialogs();
         ASSERT_TRUE(DrawForm());
         ASSERT_TRUE(Draw(type::List, 10, 20, 60, 40));
@@ -63,6 +64,7 @@ protected:
         list->SetList({}, -1, 10, 0);
         host.ClearRecord();
     }
+    void TearDown() override { ListEditing::EditorItemLimit() = ListEditing::kFirstItemLimit; }
     // Runs the list's editor from its popup menu; `drive` works the dialog
     // once it shows.
     void EditWith(const std::function<void(QDialog&)>& drive) {
