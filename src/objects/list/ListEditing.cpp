@@ -16,10 +16,7 @@ int& ListEditing::EditorItemLimit() {
 
 void ListEditing::SetList(const std::vector<std::string>& items, int selected, int /*numDisplayed*/,
                           int topItem) {
-    items_ = items;
-    const int count = static_cast<int>(items_.size());
-    selected_ = selected >= 0 && selected < count ? selected : -1;
-    topItem_ = topItem >= 0 && topItem <= count ? topItem : 0;
+    SetItems(items, selected, topItem, static_cast<int>(items.size()));
 }
 
 void ListEditing::SetRelatedLists(const std::vector<std::string>& names, const std::vector<bool>& flags) {
@@ -34,13 +31,6 @@ std::vector<std::string> ListEditing::TopItemChoices() const {
     return choices;
 }
 
-void ListEditing::Check(int position, bool on) {
-    if (position < 0 || position >= static_cast<int>(items_.size())) return;
-    if (on)
-        selected_ = position;
-    else if (selected_ == position)
-        selected_ = -1;
-}
 
 void ListEditing::LinkList(int position, bool on) {
     if (position >= 0 && position < static_cast<int>(flags_.size())) flags_[static_cast<std::size_t>(position)] = on;
@@ -48,59 +38,27 @@ void ListEditing::LinkList(int position, bool on) {
 
 bool ListEditing::Add(const std::string& text) {
     if (limit_ >= 0 && static_cast<int>(items_.size()) >= limit_) {
-        host_.MessageBox("Maximum number of items reached", "Limit reached", MessageButtons::OK);
+        host().MessageBox("Maximum number of items reached", "Limit reached", MessageButtons::OK);
         return false;
     }
     const std::string item = TrimSpaces(text);
     if (item.empty()) return false;
     if (std::find(items_.begin(), items_.end(), item) != items_.end()) {
-        host_.MessageBox("Duplicate items not allowed", "List Editor", MessageButtons::OK);
+        host().MessageBox("Duplicate items not allowed", "List Editor", MessageButtons::OK);
         return false;
     }
     items_.push_back(item);
     return true;
 }
 
-void ListEditing::Remove(int position) {
-    const int count = static_cast<int>(items_.size());
-    if (position < 0 || position >= count) return;
-    items_.erase(items_.begin() + position);
-    if (selected_ == position) selected_ = -1;
-    else if (selected_ > position) --selected_;
-    topItem_ = std::min(topItem_, count - 1);
-}
 
-void ListEditing::RemoveAll() {
-    items_.clear();
-    selected_ = -1;
-    topItem_ = 0;
-}
 
-int ListEditing::MoveUp(int position) {
-    if (position <= 0 || position >= static_cast<int>(items_.size())) return position;
-    std::swap(items_[static_cast<std::size_t>(position)], items_[static_cast<std::size_t>(position - 1)]);
-    if (selected_ == position) selected_ = position - 1;
-    else if (selected_ == position - 1) selected_ = position;
-    return position - 1;
-}
 
-int ListEditing::MoveDown(int position) {
-    if (position < 0 || position + 1 >= static_cast<int>(items_.size())) return position;
-    std::swap(items_[static_cast<std::size_t>(position)], items_[static_cast<std::size_t>(position + 1)]);
-    if (selected_ == position) selected_ = position + 1;
-    else if (selected_ == position + 1) selected_ = position;
-    return position + 1;
-}
 
-void ListEditing::Sort() {
-    std::vector<std::string> sorted = items_;
-    SortAscending(sorted);
-    SetList(sorted, selected_, 0, topItem_);
-}
 
 bool ListEditing::Accept(const std::string& maxNumText) {
     if (!IsNumeric(maxNumText) || ToReal(maxNumText) < 0 || ToReal(maxNumText) > 65534) {
-        host_.MessageBox("You must enter a number between 0 and 65534", "Invalid value",
+        host().MessageBox("You must enter a number between 0 and 65534", "Invalid value",
                          MessageButtons::OK);
         return false;
     }

@@ -12,18 +12,18 @@
 #include <string>
 #include <vector>
 
-#include "document/DialogModel.h"
+#include "objects/ItemsEditing.h"
 
 namespace tolva {
 
 class Host;
 
-class ListEditing : public DialogModel {
+class ListEditing : public ItemsEditing {
 public:
     static constexpr const char* kDialogName = "frmList";
     static constexpr int kFirstItemLimit = 10;
 
-    explicit ListEditing(Host& host) : host_(host), limit_(EditorItemLimit()) {}
+    explicit ListEditing(Host& host) : ItemsEditing(host), limit_(EditorItemLimit()) {}
 
     // The limit the next opening starts with.
     static int& EditorItemLimit();
@@ -37,35 +37,18 @@ public:
     // each.
     void SetRelatedLists(const std::vector<std::string>& names, const std::vector<bool>& flags);
 
-    const std::vector<std::string>& Items() const { return items_; }
-    int Selected() const { return selected_; }
-    int TopItem() const { return topItem_; }
     int ItemLimit() const { return limit_; }
+    void LinkList(int position, bool on);
     const std::vector<std::string>& RelatedNames() const { return names_; }
     const std::vector<bool>& RelatedFlags() const { return flags_; }
     // The choices of the top item: "0" and one more for each item.
     std::vector<std::string> TopItemChoices() const;
-
-    // A mark set on an item takes it from every other; taken off, nothing is
-    // selected.
-    void Check(int position, bool on);
-    void ChooseTopItem(int topItem) { topItem_ = topItem; }
-    void LinkList(int position, bool on);
 
     // Adds the trimmed text: refused at the limit ("Maximum number of items
     // reached", "Limit reached") and for an item already listed ("Duplicate
     // items not allowed", "List Editor"); an empty text does nothing. True
     // when added.
     bool Add(const std::string& text);
-    // Removes the item; the mark stays with its item, and the top item's
-    // last choice goes.
-    void Remove(int position);
-    void RemoveAll();
-    // Swap the item with its neighbour; the answer is where it is now.
-    int MoveUp(int position);
-    int MoveDown(int position);
-    // Sorts the items; the mark stays at its position.
-    void Sort();
 
     // The text of "Max Num on Display" at OK: a number from 0 to 65534
     // becomes the limit, here and for the openings to come, and the answer
@@ -74,10 +57,6 @@ public:
     bool Accept(const std::string& maxNumText);
 
 private:
-    Host& host_;
-    std::vector<std::string> items_;
-    int selected_ = -1;
-    int topItem_ = 0;
     int limit_;
     std::vector<std::string> names_;
     std::vector<bool> flags_;
