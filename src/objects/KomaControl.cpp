@@ -72,7 +72,7 @@ void KomaControl::AppendControlHead(LineList& lines, const HeadComments& comment
     lines.push_back(comments.subtype);
     lines.push_back("(B)CONTROL_SUBTYPE=" + subtypeWord_);
     lines.push_back("~F5");
-    lines.push_back("//any text");
+    if (!comments.text.empty()) lines.push_back(comments.text);
     lines.push_back("(S)CONTROL_TEXT=" + controlText_);
     lines.push_back("~F6");
     lines.push_back("//LEFT,CENTRE,RIGHT");

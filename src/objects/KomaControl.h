@@ -64,6 +64,8 @@ protected:
         std::string subtype;
         // The comment above the width and height; one kind writes "//0 - 159".
         std::string size = "//0 - 160";
+        // The comment above the text; a kind without it leaves it empty.
+        std::string text = "//any text";
         // The comment above the three attributes; a kind without it leaves
         // it empty.
         std::string attributes = "//TRUE or FALSE";

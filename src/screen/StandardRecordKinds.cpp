@@ -9,6 +9,7 @@
 #include "objects/button/modButton.h"
 #include "objects/checkbox/modCheckbox.h"
 #include "objects/form/FormRecord.h"
+#include "objects/popuptrigger/modPopuptrigger.h"
 #include "objects/pushbutton/modPushbutton.h"
 #include "objects/repeatbutton/modRepeatbutton.h"
 #include "objects/string/modString.h"
@@ -49,7 +50,7 @@ RecordKinds MakeStandardKinds() {
     kinds.controlStyles = {
         {"BUTTON", type::Button, ParseButtonRecordTail, "Could not load button object",
          "Could not create button"},
-        {"POPUP_TRIGGER", type::PopupTrigger, nullptr, "Could not load popuptrigger object",
+        {"POPUP_TRIGGER", type::PopupTrigger, ParsePopupTriggerRecordTail, "Could not load popuptrigger object",
          "Could not create popuptrigger"},
         {"PUSH_BUTTON", type::PushButton, ParsePushButtonRecordTail, "Could not load pushbutton object",
          "Could not create pushbutton"},

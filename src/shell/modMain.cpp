@@ -12,6 +12,7 @@
 #include "objects/bitmap/modBitmap.h"
 #include "objects/button/modButton.h"
 #include "objects/checkbox/modCheckbox.h"
+#include "objects/popuptrigger/modPopuptrigger.h"
 #include "objects/pushbutton/modPushbutton.h"
 #include "objects/repeatbutton/modRepeatbutton.h"
 #include "objects/string/modString.h"
@@ -64,7 +65,7 @@ const std::vector<ValueListStep>& ValueListSteps() {
         {"line", type::Line, &FillLineValueLists},
         {"list", type::List, &FillListValueLists},
         {"menu", type::Menu, nullptr},
-        {"popup trigger", type::PopupTrigger, nullptr},
+        {"popup trigger", type::PopupTrigger, &FillPopupTriggerValueLists},
         {"scrollbar", type::Scrollbar, &FillScrollbarValueLists},
         {"scheduler line", type::SchedulerLine, &FillSchlineValueLists},
         {"table", type::Table, nullptr},

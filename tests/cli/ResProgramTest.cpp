@@ -776,3 +776,37 @@ TEST_F(ListResave, NoSelectionAsAWordComesBackAsMinusOne) {
 
 }  // namespace
 }  // namespace tolva::testing
+
+namespace tolva::testing {
+namespace {
+
+// A Popup trigger of style 2 with three items, the second selected, every
+// field away from its default.
+class PopupTriggerResave : public FullRecordResave {
+protected:
+    PopupTriggerResave() : FullRecordResave("popuptrigger_full") {}
+};
+
+TEST_F(PopupTriggerResave, AFullRecordGoesThroughByteForByte) { ExpectResavedUnchanged(); }
+
+// One item more counted than written: the record fails at the line after
+// the last item, and the load goes on without the object.
+TEST_F(PopupTriggerResave, MoreItemsCountedThanWrittenFailTheRecordAtItsEnd) {
+    WriteFile(dir / "in.txt", FullWith("NUM_OF_OBJECTS=3", "NUM_OF_OBJECTS=4"));
+    EXPECT_EQ(Run("check in.txt"), 0);
+    EXPECT_EQ(err,
+              "Tolva Resource Editor: Error on line 84:  #END_CONTROL\n"
+              "Load Error: Could not load popuptrigger object\n"
+              "Tolva Resource Editor: Could not embed in form\n");
+}
+
+// The rest of the record is then read as lines between records, and the
+// load fails.
+TEST_F(PopupTriggerResave, AnItemIndexedFromOneIsOutOfPlace) {
+    WriteFile(dir / "in.txt", FullWith("(S)CONTROL_ADD.ITEM0=Apple", "(S)CONTROL_ADD.ITEM1=Apple"));
+    EXPECT_EQ(Run("check in.txt"), 1);
+    EXPECT_EQ(err.rfind("Tolva Resource Editor: Error on line 81:  (S)CONTROL_ADD.ITEM1=Apple\n", 0), 0u) << err;
+}
+
+}  // namespace
+}  // namespace tolva::testing
