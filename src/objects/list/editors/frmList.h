@@ -1,23 +1,16 @@
 #pragma once
-// frmList, the List Editor: the items with the check mark of the selection,
-// the buttons that add, remove, move and sort them, the top item, the
-// number on display and the form's other lists to link. It works on a
-// ListEditing, whose rules it follows; OK hands it back accepted.
-#include <QDialog>
-
+// frmList, the List Editor: the shared item controls, and the number on
+// display and the form's other lists to link. It works on a ListEditing,
+// whose rules it follows; OK hands it back accepted once the number on
+// display passes.
+#include "objects/editors/ItemsDialog.h"
 #include "objects/list/ListEditing.h"
-
-class QComboBox;
-class QLineEdit;
-class QListWidget;
-class QListWidgetItem;
-class QPushButton;
 
 namespace tolva {
 
 class DialogModel;
 
-class frmList : public QDialog {
+class frmList : public ItemsDialog {
     Q_OBJECT
 public:
     frmList(ListEditing& edit, QWidget* parent = nullptr);
@@ -26,26 +19,18 @@ public:
     // OK. Any other model is refused at once.
     static bool Run(DialogModel& model, QWidget* parent);
 
+protected:
+    bool AddItem(const std::string& text) override { return edit_.Add(text); }
+    std::vector<std::string> TopItemChoices() const override { return edit_.TopItemChoices(); }
+    void Ok() override;
+
 private:
-    void FillItems(int highlight);
-    void FillTopItems();
     void FillLists();
-    void ItemTicked(QListWidgetItem* item);
     void ListTicked(QListWidgetItem* item);
-    void Add();
-    void Remove();
-    void RemoveAll();
-    void Move(bool up);
-    void Sort();
-    void Ok();
 
     ListEditing& edit_;
-    QLineEdit* txtNewItem_ = nullptr;
-    QListWidget* lbItems_ = nullptr;
-    QComboBox* cmbTopItemNum_ = nullptr;
     QLineEdit* txtMaxNum_ = nullptr;
     QListWidget* lbLists_ = nullptr;
-    bool filling_ = false;
 };
 
 }  // namespace tolva
