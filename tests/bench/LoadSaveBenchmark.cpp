@@ -280,6 +280,19 @@ void WriteList(std::ostream& out, const std::string& name, int id, int slot) {
         << "(BO)LIST_ATTR.LIST_SYNCHRONOUS=FALSE\r\n#END_LIST\r\n";
 }
 
+// A popup trigger of four items, the second selected.
+void WritePopupTrigger(std::ostream& out, const std::string& name, int id, int slot) {
+    WriteHeadA(out, "#CONTROL", name, id, "CONTROL", 60, 16 + slot * 15, 40, 12);
+    out << "(B)CONTROL_STYLE=POPUP_TRIGGER\r\n~F4\r\n(B)CONTROL_SUBTYPE=POPUP_TRIGGER_STYLE_" << slot % 3
+        << "\r\n~F5\r\n(S)CONTROL_TEXT=Two\r\n~F6\r\n(B)TEXTMENT=LEFT\r\n~F7\r\n"
+        << "(BO)CONTROL_ATTR.ENABLE=TRUE\r\n(BO)CONTROL_ATTR.ACTIVE=TRUE\r\n(BO)CONTROL_ATTR.VISIBLE=TRUE\r\n"
+        << "~F8\r\n(U)CONTROL_ADD.RADIUS=2\r\n(U)CONTROL_ADD.NUM_OF_OBJECTS=4\r\n"
+        << "(SH)CONTROL_ADD.SELECTED_ITEM=1\r\n(U)CONTROL_ADD.TOP_ITEM_NUM=0\r\n";
+    const char* items[] = {"One", "Two", "Three", "Four"};
+    for (int n = 0; n < 4; ++n) out << "(S)CONTROL_ADD.ITEM" << n << "=" << items[n] << "\r\n";
+    out << "#END_CONTROL\r\n";
+}
+
 // The kinds a form holds, in turn: the name prefix, the word of the form's
 // list and the record writer.
 struct ObjectKind {
@@ -300,6 +313,7 @@ const ObjectKind kObjectKinds[] = {
     {"SCHEDULERLINE_", "SCHLINE", WriteSchedulerLine},
     {"SCROLLBAR_", "SCROLLBAR", WriteScrollbar},
     {"LIST_", "LIST", WriteList},
+    {"POPUPTRIGGER_", "CONTROL", WritePopupTrigger},
 };
 constexpr int kObjectsPerForm = 9;
 

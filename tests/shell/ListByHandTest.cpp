@@ -1,8 +1,11 @@
-// Two linked lists worked by hand in the editor: drawn with the mouse from
-// the toolbar, rows typed and chosen (a refused height among them), the
-// items typed in the List Editor opened from the "Edit List..." row and the
-// other list ticked, then saved, opened and saved again.
+// Two linked lists and a popup trigger worked by hand in the editor: drawn
+// with the mouse from the toolbar, rows typed and chosen (a refused height
+// among them), the list's items typed in the List Editor opened from its
+// "Edit List..." row with the other list ticked, the popup trigger's items in
+// its editor opened from its popup menu, then saved, opened and saved
+// again.
 #include <QListWidget>
+#include <functional>
 
 #include "document/ObjectTypes.h"
 #include "objects/form/ctlKOMAForm.h"
@@ -17,8 +20,18 @@ namespace tolva::testing {
 namespace {
 
 constexpr int kListTool = 11;
+constexpr int kPopupTriggerTool = 9;
 
-TEST_F(ByHand, TwoListsDrawnFilledLinkedSavedOpenedAndSavedAgain) {
+// The next dialog is the registered one, driven by `drive` once it is up.
+void NextDialogDrivenBy(ScriptedHost& host, std::function<void(QWidget*)> drive) {
+    host.dialogAnswers.push_back([](DialogModel& model) {
+        const DialogRunner* run = FindDialog(model.DialogName());
+        return run && (*run)(model, nullptr);
+    });
+    OnNextModal(std::move(drive));
+}
+
+TEST_F(ByHand, TwoLinkedListsAndAPopupTriggerDrawnFilledSavedOpenedAndSavedAgain) {
     RegisterObjectDialogs();
     ListEditing::EditorItemLimit() = ListEditing::kFirstItemLimit;
     window->ShowBitmapWarning(false);
@@ -40,11 +53,7 @@ TEST_F(ByHand, TwoListsDrawnFilledLinkedSavedOpenedAndSavedAgain) {
     ChooseRow(13, "TRUE");
     EXPECT_TRUE(host.messages.empty()) << host.MessageLines().front();
 
-    host.dialogAnswers.push_back([](DialogModel& model) {
-        const DialogRunner* run = FindDialog(model.DialogName());
-        return run && (*run)(model, nullptr);
-    });
-    OnNextModal([](QWidget* dialog) {
+    NextDialogDrivenBy(host, [](QWidget* dialog) {
         auto* box = dialog->findChild<QLineEdit*>("txtMaxNum");
         ASSERT_NE(box, nullptr);
         box->setText("6");
@@ -67,16 +76,37 @@ TEST_F(ByHand, TwoListsDrawnFilledLinkedSavedOpenedAndSavedAgain) {
     EXPECT_EQ(fruit->KOMASelectedItem(), 1);
     EXPECT_EQ(fruit->KOMANumItemsDisplayed(), 6);
 
+    // A popup trigger below, its items from the editor of its popup menu.
+    ClickTool(kPopupTriggerTool);
+    Drag({40, 260}, {240, 300});
+    ASSERT_EQ(Screen().Count(type::PopupTrigger), 1);
+    NextDialogDrivenBy(host, [](QWidget* dialog) {
+        auto* newItem = dialog->findChild<QLineEdit*>("txtNewItem");
+        for (const char* item : {"Small", "Large"}) {
+            newItem->setText(item);
+            QTest::mouseClick(dialog->findChild<QPushButton*>("cmdAdd"), Qt::LeftButton);
+        }
+        auto* items = dialog->findChild<QListWidget*>("lbItems");
+        ASSERT_EQ(items->count(), 2);
+        items->item(0)->setCheckState(Qt::Checked);
+        QTest::mouseClick(dialog->findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+    });
+    host.popupAnswers = {0};
+    QTest::mouseClick(Canvas(), Qt::RightButton, {}, {120, 280});
+    EXPECT_EQ(host.dialogs, (std::vector<std::string>{"frmList", "frmPopupTrigger"}));
+
     const std::string saved = SaveDesignAs(dir, "first");
     for (const char* line : {"NAME=FRUIT\r\n", "(U)LIST_NUM_RELATED_LIST_OBJECT=1\r\n",
                              "(U)LIST_TOTAL_NUM_ITEMS=3\r\n", "(U)LIST_NUM_ITEMS_ON_DISPLAY=6\r\n",
                              "(B)LIST_TEXTMENT=CENTRE\r\n", "(SH)LIST_SELECTED_ITEM=1\r\n",
                              "(B)LIST_STYLE=LIST_STYLE_2\r\n", "(S)LIST_ITEMS3=Pear\r\n",
-                             "(BO)LIST_ATTR.LIST_SET_SCROLL=TRUE\r\n"})
+                             "(BO)LIST_ATTR.LIST_SET_SCROLL=TRUE\r\n", "(S)CONTROL_TEXT=Small\r\n",
+                             "(S)CONTROL_ADD.ITEM1=Large\r\n"})
         EXPECT_NE(saved.find(line), std::string::npos) << line;
 
     OpenAnew(dir / "first.txt");
     ASSERT_EQ(Screen().Count(type::List), 2);
+    ASSERT_EQ(Screen().Count(type::PopupTrigger), 1);
     // The links do not come back from the file: the lists are embedded
     // unlinked, and the second save says so.
     std::string expected = saved;
