@@ -170,6 +170,18 @@ TEST_F(ListTest, CancelInTheEditorChangesNothing) {
     EXPECT_EQ(list.KOMASelectedItem(), 0);
 }
 
+// A list in a table cell lies on no form: it has no links to write.
+TEST_F(ListTest, AListWithoutAFormWritesNoRelatedLists) {
+    ASSERT_EQ(list.ParentForm(), nullptr);
+    list.SetRelatedLists({"OTHER"}, {true});
+    LineList lines;
+    bool ok = false;
+    list.ReturnResourceFileText(lines, ok);
+    ASSERT_TRUE(ok);
+    EXPECT_NE(std::find(lines.begin(), lines.end(), "(U)LIST_NUM_RELATED_LIST_OBJECT=0"), lines.end());
+    EXPECT_EQ(list.NumRelatedLists(), 0);
+}
+
 // --- record ----------------------------------------------------------------------------------
 
 class ListRecordTest : public ResourceFileTest {
