@@ -70,6 +70,16 @@ protected:
         return text;
     }
 
+    // What a load says of a record that fails at a line, the rest of the
+    // file then read as lines between records.
+    static std::string FailedRecord(int line, const std::string& text, const std::string& kind) {
+        return "Tolva Resource Editor: Error on line " + std::to_string(line) + ":  " + text +
+               "\n"
+               "Load Error: Could not load " + kind + " object\n"
+               "Load Error: Invalid/unsupported resource object\n"
+               "Tolva Resource Editor: Could not load resource file\n";
+    }
+
     fs::path dir;
     std::string err;
     std::string out;
@@ -349,11 +359,7 @@ TEST_F(RepeatButtonResave, AFileLineWithAnotherDepthEndsTheRecordAndTheLoad) {
     WritePictures();
     EXPECT_EQ(Run("check in.txt"), 1);
     // The closing word that follows is then read as a line between records.
-    EXPECT_EQ(err,
-              "Tolva Resource Editor: Error on line 83:  (P)CONTROL_BITMAP.FILE=Q_EIGHT_BIT,ARROW.BMP\n"
-              "Load Error: Could not load repeatbutton object\n"
-              "Load Error: Invalid/unsupported resource object\n"
-              "Tolva Resource Editor: Could not load resource file\n");
+    EXPECT_EQ(err, FailedRecord(83, "(P)CONTROL_BITMAP.FILE=Q_EIGHT_BIT,ARROW.BMP", "repeatbutton"));
 }
 
 TEST_F(RepeatButtonResave, APlaceOutOfRangeEndsTheLoadSilently) {
@@ -461,11 +467,7 @@ TEST_F(CheckboxResave, ALineOutOfOrderInTheTailEndsTheRecordAndTheLoad) {
     WritePictures();
     EXPECT_EQ(Run("check in.txt"), 1);
     // The closing word that follows is then read as a line between records.
-    EXPECT_EQ(err,
-              "Tolva Resource Editor: Error on line 78:  (SH)CONTROL_BITMAP.X=0\n"
-              "Load Error: Could not load checkbox object\n"
-              "Load Error: Invalid/unsupported resource object\n"
-              "Tolva Resource Editor: Could not load resource file\n");
+    EXPECT_EQ(err, FailedRecord(78, "(SH)CONTROL_BITMAP.X=0", "checkbox"));
 }
 
 TEST_F(CheckboxResave, AFileLineWithAnotherDepthFailsTheRecord) {
@@ -496,11 +498,7 @@ TEST_F(TextboxResave, AFullRecordGoesThroughByteForByte) { ExpectResavedUnchange
 TEST_F(TextboxResave, AMarkerOutOfPlaceIsReportedAndTheLoadEnds) {
     WriteFile(dir / "in.txt", FullWith("~F12\r\n", "~F21\r\n"));
     EXPECT_EQ(Run("check in.txt"), 1);
-    EXPECT_EQ(err,
-              "Tolva Resource Editor: Error on line 83:  ~F21\n"
-              "Load Error: Could not load textbox object\n"
-              "Load Error: Invalid/unsupported resource object\n"
-              "Tolva Resource Editor: Could not load resource file\n");
+    EXPECT_EQ(err, FailedRecord(83, "~F21", "textbox"));
 }
 
 TEST_F(TextboxResave, AWordWhereANumberBelongsEndsTheLoad) {
@@ -551,11 +549,7 @@ TEST_F(FieldResave, ATopLineBeyondTheLastLineIsWrittenBackAsTheLast) {
 TEST_F(FieldResave, AKeyOutOfPlaceIsReportedAndTheLoadEnds) {
     WriteFile(dir / "in.txt", FullWith("(B)FIELD_TEXTMENT=RIGHT", "(B)TEXTMENT=RIGHT"));
     EXPECT_EQ(Run("check in.txt"), 1);
-    EXPECT_EQ(err,
-              "Tolva Resource Editor: Error on line 80:  (B)TEXTMENT=RIGHT\n"
-              "Load Error: Could not load field object\n"
-              "Load Error: Invalid/unsupported resource object\n"
-              "Tolva Resource Editor: Could not load resource file\n");
+    EXPECT_EQ(err, FailedRecord(80, "(B)TEXTMENT=RIGHT", "field"));
 }
 
 TEST_F(FieldResave, AWordWhereANumberBelongsEndsTheLoad) {
@@ -625,11 +619,7 @@ TEST_F(LineResave, AWordWhereANumberBelongsEndsTheLoad) {
 TEST_F(LineResave, AMarkerOutOfPlaceIsReportedAndTheLoadEnds) {
     WriteFile(dir / "in.txt", FullWith("~F6\r\n(SH)LINE_ENDPT_X", "~F5\r\n(SH)LINE_ENDPT_X"));
     EXPECT_EQ(Run("check in.txt"), 1);
-    EXPECT_EQ(err,
-              "Tolva Resource Editor: Error on line 68:  ~F5\n"
-              "Load Error: Could not load line object\n"
-              "Load Error: Invalid/unsupported resource object\n"
-              "Tolva Resource Editor: Could not load resource file\n");
+    EXPECT_EQ(err, FailedRecord(68, "~F5", "line"));
 }
 
 }  // namespace
@@ -649,11 +639,7 @@ TEST_F(SchedulerLineResave, AFullRecordGoesThroughByteForByte) { ExpectResavedUn
 TEST_F(SchedulerLineResave, AMarkerOutOfPlaceIsReportedAndTheLoadEnds) {
     WriteFile(dir / "in.txt", FullWith("~F2\r\n//TRUE", "~F3\r\n//TRUE"));
     EXPECT_EQ(Run("check in.txt"), 1);
-    EXPECT_EQ(err,
-              "Tolva Resource Editor: Error on line 57:  ~F3\n"
-              "Load Error: Could not load SchedulerLine object\n"
-              "Load Error: Invalid/unsupported resource object\n"
-              "Tolva Resource Editor: Could not load resource file\n");
+    EXPECT_EQ(err, FailedRecord(57, "~F3", "SchedulerLine"));
 }
 
 TEST_F(SchedulerLineResave, AWidthBeyondTheScreenIsRefusedAndTheLoadGoesOn) {
@@ -722,11 +708,7 @@ TEST_F(ScrollbarResave, ARangeBeyondSixteenBitsIsAnErrorOfTheRecord) {
 TEST_F(ScrollbarResave, AnArrowFileOfAnotherDepthIsReportedAndTheLoadEnds) {
     WriteFile(dir / "in.txt", FullWith("Q_FOUR_BIT,RIGHT.BMP", "Q_EIGHT_BIT,RIGHT.BMP"));
     EXPECT_EQ(Run("check in.txt"), 1);
-    EXPECT_EQ(err,
-              "Tolva Resource Editor: Error on line 87:  (P)SCROLLBAR_ARROW2_BITMAP.FILE=Q_EIGHT_BIT,RIGHT.BMP\n"
-              "Load Error: Could not load scrollbar object\n"
-              "Load Error: Invalid/unsupported resource object\n"
-              "Tolva Resource Editor: Could not load resource file\n");
+    EXPECT_EQ(err, FailedRecord(87, "(P)SCROLLBAR_ARROW2_BITMAP.FILE=Q_EIGHT_BIT,RIGHT.BMP", "scrollbar"));
 }
 
 }  // namespace
@@ -749,11 +731,7 @@ TEST_F(ListResave, AFullRecordGoesThroughByteForByte) { ExpectResavedUnchanged()
 TEST_F(ListResave, ARelatedCountWithoutItsLinesFailsAtTheMarker) {
     WriteFile(dir / "in.txt", FullWith("(U)LIST_NUM_RELATED_LIST_OBJECT=0", "(U)LIST_NUM_RELATED_LIST_OBJECT=1"));
     EXPECT_EQ(Run("check in.txt"), 1);
-    EXPECT_EQ(err,
-              "Tolva Resource Editor: Error on line 66:  ~F5\n"
-              "Load Error: Could not load list object\n"
-              "Load Error: Invalid/unsupported resource object\n"
-              "Tolva Resource Editor: Could not load resource file\n");
+    EXPECT_EQ(err, FailedRecord(66, "~F5", "list"));
 }
 
 TEST_F(ListResave, AnItemLineOutOfItsPlaceFailsTheRecord) {
