@@ -16,6 +16,7 @@
 #include "objects/field/modField.h"
 #include "objects/line/modLine.h"
 #include "objects/list/modList.h"
+#include "objects/menu/modMenu.h"
 #include "objects/schedulerline/modSchline.h"
 #include "objects/scrollbar/modScrollbar.h"
 #include "objects/textbox/modTextbox.h"
@@ -34,7 +35,7 @@ RecordKinds MakeStandardKinds() {
         {"#FIELD", type::Field, ParseFieldRecord, "Could not load field object", "Could not create field"},
         {"#LINE", type::Line, ParseLineRecord, "Could not load line object", "Could not create line"},
         {"#LIST", type::List, ParseListRecord, "Could not load list object", "Could not create list"},
-        {"#MENU", type::Menu, nullptr, "Could not load menu object", "Could not create menu"},
+        {"#MENU", type::Menu, ParseMenuRecord, "Could not load menu object", "Could not create menu"},
         {"#SCHLINE", type::SchedulerLine, ParseSchlineRecord, "Could not load SchedulerLine object",
          "Could not create scheduler line"},
         {"#SCROLLBAR", type::Scrollbar, ParseScrollbarRecord, "Could not load scrollbar object",

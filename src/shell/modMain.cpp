@@ -19,6 +19,7 @@
 #include "objects/field/modField.h"
 #include "objects/line/modLine.h"
 #include "objects/list/modList.h"
+#include "objects/menu/modMenu.h"
 #include "objects/schedulerline/modSchline.h"
 #include "objects/scrollbar/modScrollbar.h"
 #include "objects/textbox/modTextbox.h"
@@ -64,7 +65,7 @@ const std::vector<ValueListStep>& ValueListSteps() {
         {"field", type::Field, &FillFieldValueLists},
         {"line", type::Line, &FillLineValueLists},
         {"list", type::List, &FillListValueLists},
-        {"menu", type::Menu, nullptr},
+        {"menu", type::Menu, &FillMenuValueLists},
         {"popup trigger", type::PopupTrigger, &FillPopupTriggerValueLists},
         {"scrollbar", type::Scrollbar, &FillScrollbarValueLists},
         {"scheduler line", type::SchedulerLine, &FillSchlineValueLists},
