@@ -23,7 +23,9 @@ protected:
         std::vector<std::vector<std::string>> items;
         std::vector<std::string> names;
         std::vector<int> ids;
-        Form(form)->GetMenus(items, names, ids);
+        ctlKOMAForm* shown = Form(form);
+        EXPECT_NE(shown, nullptr) << form;
+        if (shown) shown->GetMenus(items, names, ids);
         return names;
     }
 };
@@ -66,6 +68,33 @@ TEST_F(MenuRecordTest, MoreItemsCountedThanWrittenFailTheRecord) {
     ASSERT_GE(messages.size(), 2u);
     EXPECT_NE(messages[0].find(":  ~F5"), std::string::npos) << messages[0];
     EXPECT_EQ(messages[1], "Load Error: Could not load menu object");
+}
+
+// A menu the second form lists as well is made in both; a menu no form
+// lists is dropped.
+TEST_F(MenuRecordTest, AMenuTwoFormsListIsCopiedToBothAndOneNoFormListsIsDropped) {
+    MakeTwoMenus();
+    ASSERT_TRUE(Draw(type::Form, 0, 0, 160, 160));
+    ASSERT_TRUE(SaveResourceFile(screen, path));
+    std::string text = ReadBytes(path);
+    const auto fileId = text.substr(text.find("NAME=MENU_FILE\r\nID=") + 19);
+    const std::string id = fileId.substr(0, fileId.find('\r'));
+    // The second form lists MENU_FILE too; the first no longer lists
+    // MENU_EDIT.
+    const auto second = text.find("NAME=FORM_2");
+    ASSERT_NE(second, std::string::npos);
+    const std::string none = "(U)NO_OF_OBJECTS=0\r\n~F7\r\n";
+    const auto count = text.find(none, second);
+    ASSERT_NE(count, std::string::npos);
+    text.replace(count, none.size(), "(U)NO_OF_OBJECTS=1\r\n~F7\r\n(U)OBJECT_ID=" + id + "\r\n(B)OBJECT_TYPE=MENU\r\n");
+    const auto edit = text.find("NAME=MENU_EDIT\r\nID=");
+    const std::string editId = text.substr(edit + 19, text.find('\r', edit + 19) - edit - 19);
+    text = Replaced(text, "(U)OBJECT_ID=" + editId + "\r\n(B)OBJECT_TYPE=MENU\r\n", "");
+    text = Replaced(text, "(U)NO_OF_OBJECTS=2", "(U)NO_OF_OBJECTS=1");
+    ASSERT_TRUE(Reload(text));
+    ASSERT_EQ(screen.NumForms(), 2) << ::testing::PrintToString(host.MessageLines());
+    EXPECT_EQ(MenuNames(1), (Lines{"MENU_FILE"}));
+    EXPECT_EQ(MenuNames(2), (Lines{"MENU_FILE"}));
 }
 
 }  // namespace
