@@ -265,7 +265,7 @@ bool KomaObject::HasOwnRowShape(const PropertyArray& rows) const {
     return rows.Columns() == 3 && rows.Rows() == PropertyRowCount();
 }
 
-void KomaObject::ApplyNameRow(const PropertyArray& rows) {
+void KomaObject::ApplyNameRow(const PropertyArray& rows, const std::string& refusal) {
     // 2. The name: it must pass the name rule and differ; then it must be free.
     // A name row the user emptied is no name at all: it is passed over like
     // any other text that fails the rule, and the old name stays.
@@ -274,7 +274,7 @@ void KomaObject::ApplyNameRow(const PropertyArray& rows) {
         if (!owner_ || owner_->IsNewNameUnique(name_, newName)) {
             KOMAName(newName);
         } else {
-            Message(LoadResString(msg::NameMustBeUnique));
+            Message(refusal.empty() ? LoadResString(msg::NameMustBeUnique) : refusal);
         }
     }
 }

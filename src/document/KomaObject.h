@@ -176,7 +176,9 @@ protected:
     // (the class's own row count, three columns), the name row, the X and Y
     // rows (each followed by the moved event), the height and width rows.
     bool HasOwnRowShape(const PropertyArray& rows) const;
-    void ApplyNameRow(const PropertyArray& rows);
+    // A name that is taken is refused with `refusal`, by default "Object name
+    // must be unique".
+    void ApplyNameRow(const PropertyArray& rows, const std::string& refusal = "");
     void ApplyPositionRows(const PropertyArray& rows);
     void ApplySizeRows(const PropertyArray& rows);
     // A changed X or Y row, after the setter and before the moved event: a
