@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "document/Host.h"
 #include "document/TextHelpers.h"
 
 namespace tolva {
@@ -13,6 +14,21 @@ void ItemsEditing::SetItems(const std::vector<std::string>& items, int selected,
     const int count = static_cast<int>(items_.size());
     selected_ = selected >= 0 && selected < count ? selected : -1;
     topItem_ = topItem >= 0 && topItem <= lastTopChoice ? topItem : 0;
+}
+
+bool ItemsEditing::AddWithinLimit(const std::string& text, int limit) {
+    if (limit >= 0 && static_cast<int>(items_.size()) >= limit) {
+        host_.MessageBox("Maximum number of items reached", "Limit reached", MessageButtons::OK);
+        return false;
+    }
+    const std::string item = TrimSpaces(text);
+    if (item.empty()) return false;
+    if (std::find(items_.begin(), items_.end(), item) != items_.end()) {
+        host_.MessageBox("Duplicate items not allowed", "List Editor", MessageButtons::OK);
+        return false;
+    }
+    items_.push_back(item);
+    return true;
 }
 
 void ItemsEditing::Check(int position, bool on) {

@@ -41,6 +41,11 @@ protected:
     // item (0 when it lies outside the choices).
     void SetItems(const std::vector<std::string>& items, int selected, int topItem, int lastTopChoice);
     Host& host() { return host_; }
+    // Adds the trimmed text: refused at the limit (a negative one has none:
+    // "Maximum number of items reached", "Limit reached") and for an item
+    // already listed ("Duplicate items not allowed", "List Editor"); an empty
+    // text does nothing. True when added.
+    bool AddWithinLimit(const std::string& text, int limit);
     std::vector<std::string> items_;
     int selected_ = -1;
     int topItem_ = 0;

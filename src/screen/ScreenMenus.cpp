@@ -3,6 +3,7 @@
 #include "document/Host.h"
 #include "screen/ctlTolvaScreen.h"
 #include "objects/form/ctlKOMAForm.h"
+#include "objects/menu/MenuEditing.h"
 
 namespace tolva {
 
@@ -12,9 +13,33 @@ void ctlTolvaScreen::ShowMenuEditor() {
                          "Couldn't Edit Menus");
         return;
     }
-    // The window layer loads the editor, titles it with the form's name,
-    // hands it the form's menus and shows it modally.
-    if (menuEditorOpener_) menuEditorOpener_(*currentFormRef_);
+    ctlKOMAForm& form = *currentFormRef_;
+    MenuEditing edit(host_, [this, &form](const std::string& name) {
+        return IsNameTakenForMenu(form, name);
+    });
+    edit.Caption(form.KOMAName());
+    for (const auto& menu : form.Menus()) edit.AddMenu(menu.name, menu.items);
+    edit.SetMenuSelected(0);
+    MenuEditing::FormPicture picture;
+    for (const KomaObject* object : VisibleObjectsInStackingOrder()) picture.objects.push_back(object);
+    picture.left = form.Left();
+    picture.top = form.Top();
+    picture.devicePixel = twipsPerPixel_;
+    edit.SetFormPicture(std::move(picture));
+    // The dialog is modal: the main window waits while it is open.
+    if (host_.RunDialog(edit)) UpdateMenus(edit.ItemLists(), edit.Names());
+}
+
+bool ctlTolvaScreen::IsNameTakenForMenu(const ctlKOMAForm& editing, const std::string& name) const {
+    // Every object of the screen, forms included; the menus of the form
+    // being edited are the editor's own, so only the other forms' count.
+    if (names_.Contains(name)) return true;
+    for (const auto& other : arrays_[type::Form]) {
+        if (other.get() == &editing) continue;
+        for (const auto& menu : static_cast<const ctlKOMAForm&>(*other).Menus())
+            if (menu.name == name) return true;
+    }
+    return false;
 }
 
 void ctlTolvaScreen::UpdateMenus(const std::vector<std::vector<std::string>>& itemLists,

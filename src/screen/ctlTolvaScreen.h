@@ -44,10 +44,6 @@ public:
     ~ctlTolvaScreen() override;
 
     void SetEvents(ScreenEvents* events) { events_ = events; }
-    // Opens the menu editor on a form; set by the window layer.
-    void SetMenuEditorOpener(std::function<void(ctlKOMAForm&)> opener) {
-        menuEditorOpener_ = std::move(opener);
-    }
 
     // --- public properties --------------------------------------------------
     bool AllowDrawing() const { return allowDrawing_; }
@@ -196,7 +192,12 @@ public:
     bool EmbedObjectInForm(const std::string& formName, int type, const std::string& objectName);
     void DistributeObjectIds() override;
 
+    // Opens the menu editor on the form on show; on OK the form takes the
+    // menus back.
     void ShowMenuEditor();
+    // Whether a menu of `editing` may not take the name: an object of the
+    // screen or a menu of another form bears it.
+    bool IsNameTakenForMenu(const ctlKOMAForm& editing, const std::string& name) const;
     void UpdateMenus(const std::vector<std::vector<std::string>>& itemLists,
                      const std::vector<std::string>& names);
     // False when the form is not found.
@@ -285,7 +286,6 @@ protected:
     Host& host_;
     LogSink& log_;
     ScreenEvents* events_ = nullptr;
-    std::function<void(ctlKOMAForm&)> menuEditorOpener_;
 
     std::array<std::vector<std::unique_ptr<KomaObject>>, type::Count> arrays_;
     int numMenus_ = 0;

@@ -6,6 +6,8 @@
 #include "objects/field/editors/frmField.h"
 #include "objects/list/ListEditing.h"
 #include "objects/list/editors/frmList.h"
+#include "objects/menu/MenuEditing.h"
+#include "objects/menu/editors/frmMenu.h"
 #include "objects/popuptrigger/PopupTriggerEditing.h"
 #include "objects/popuptrigger/editors/frmPopupTrigger.h"
 #include "platform/DialogRegistry.h"
@@ -16,6 +18,7 @@ void RegisterObjectDialogs() {
     RegisterDialog(CheckboxRelations::kDialogName, &frmCheckbox::Run);
     RegisterDialog(FieldEditorText::kDialogName, &frmField::Run);
     RegisterDialog(ListEditing::kDialogName, &frmList::Run);
+    RegisterDialog(MenuEditing::kDialogName, &frmMenu::Run);
     RegisterDialog(PopupTriggerEditing::kDialogName, &frmPopupTrigger::Run);
 }
 

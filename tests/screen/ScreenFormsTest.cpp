@@ -1,6 +1,8 @@
 // The selection, the form on show, embedding by the loader and the menus.
 #include "screen/ScreenFixture.h"
 
+#include "objects/menu/MenuEditing.h"
+
 namespace tolva::testing {
 namespace {
 
@@ -150,29 +152,108 @@ TEST_F(ScreenForms, EmbeddingAFormOrUnknownNamesFails) {
 }
 
 TEST_F(ScreenForms, MenuEditorNeedsAForm) {
-    int opened = 0;
-    screen.SetMenuEditorOpener([&](ctlKOMAForm&) { ++opened; });
     screen.ShowMenuEditor();
     ASSERT_EQ(host.messages.size(), 1u);
     EXPECT_EQ(host.messages[0].text, "You must draw a form before you can edit its menus");
     EXPECT_EQ(host.messages[0].title, "Couldn't Edit Menus");
-    EXPECT_EQ(opened, 0);
+    EXPECT_TRUE(host.dialogs.empty());
 }
 
 TEST_F(ScreenForms, MenuEditorOpensOnTheFormOnShow) {
     ASSERT_TRUE(DrawForm());
     ASSERT_TRUE(DrawForm());
-    ctlKOMAForm* seen = nullptr;
-    screen.SetMenuEditorOpener([&](ctlKOMAForm& form) { seen = &form; });
+    Form(2)->SetMenus({{"Open", "Save"}, {"Cut"}}, {"MENU_FILE", "MENU_EDIT"});
+    std::string caption;
+    std::vector<std::string> names, shown;
+    std::size_t pictured = 0;
+    host.dialogAnswers.push_back([&](DialogModel& model) {
+        auto& edit = dynamic_cast<MenuEditing&>(model);
+        caption = edit.Caption();
+        names = edit.Names();
+        shown = edit.Items();
+        pictured = edit.Picture().objects.size();
+        return false;
+    });
     screen.ShowMenuEditor();
-    EXPECT_EQ(seen, Form(2));
+    EXPECT_EQ(host.dialogs, (std::vector<std::string>{"frmMenu"}));
+    EXPECT_EQ(caption, "Menu Editor - FORM_2");
+    EXPECT_EQ(names, (std::vector<std::string>{"MENU_FILE", "MENU_EDIT"}));
+    // The first menu is shown.
+    EXPECT_EQ(shown, (std::vector<std::string>{"Open", "Save"}));
+    // The picture behind the preview is the form on show, with its objects.
+    EXPECT_EQ(pictured, screen.VisibleObjectsInStackingOrder().size());
     EXPECT_TRUE(host.messages.empty());
 }
 
-TEST_F(ScreenForms, MenuEditorWithoutAnOpenerDoesNothing) {
+TEST_F(ScreenForms, MenuEditorOkGivesTheFormItsMenusNumbered) {
     ASSERT_TRUE(DrawForm());
+    Form(1)->SetMenus({{"Open"}}, {"MENU_FILE"});
+    host.dialogAnswers.push_back([](DialogModel& model) {
+        auto& edit = dynamic_cast<MenuEditing&>(model);
+        EXPECT_TRUE(edit.Rename("MENU_MAIN"));
+        EXPECT_TRUE(edit.Add("Close"));
+        EXPECT_TRUE(edit.New("MENU_EDIT"));
+        EXPECT_TRUE(edit.Add("Cut"));
+        return true;
+    });
     screen.ShowMenuEditor();
-    EXPECT_TRUE(host.messages.empty());
+    std::vector<std::vector<std::string>> items;
+    std::vector<std::string> names;
+    std::vector<int> ids;
+    Form(1)->GetMenus(items, names, ids);
+    EXPECT_EQ(names, (std::vector<std::string>{"MENU_MAIN", "MENU_EDIT"}));
+    EXPECT_EQ(items, (std::vector<std::vector<std::string>>{{"Open", "Close"}, {"Cut"}}));
+    ASSERT_EQ(ids.size(), 2u);
+    EXPECT_GT(ids[0], 0);
+    EXPECT_GT(ids[1], ids[0]);
+    // The new names are taken now, the old one is free.
+    EXPECT_FALSE(screen.IsNewNameUnique("", "MENU_EDIT"));
+    EXPECT_TRUE(screen.IsNewNameUnique("", "MENU_FILE"));
+}
+
+TEST_F(ScreenForms, MenuEditorCancelKeepsTheMenus) {
+    ASSERT_TRUE(DrawForm());
+    Form(1)->SetMenus({{"Open"}, {"Cut"}}, {"MENU_FILE", "MENU_EDIT"});
+    host.dialogAnswers.push_back([](DialogModel& model) {
+        auto& edit = dynamic_cast<MenuEditing&>(model);
+        edit.Delete();
+        edit.ChooseMenu(0);
+        edit.Delete();
+        EXPECT_TRUE(edit.Names().empty());
+        return false;
+    });
+    screen.ShowMenuEditor();
+    EXPECT_EQ(Form(1)->GetNumMenus(), 2);
+}
+
+TEST_F(ScreenForms, MenuEditorDeletingAllMenusLeavesNone) {
+    ASSERT_TRUE(DrawForm());
+    Form(1)->SetMenus({{"Open"}, {"Cut"}}, {"MENU_FILE", "MENU_EDIT"});
+    host.dialogAnswers.push_back([](DialogModel& model) {
+        auto& edit = dynamic_cast<MenuEditing&>(model);
+        edit.Delete();
+        edit.ChooseMenu(0);
+        edit.Delete();
+        return true;
+    });
+    screen.ShowMenuEditor();
+    EXPECT_EQ(Form(1)->GetNumMenus(), 0);
+    EXPECT_TRUE(screen.IsNewNameUnique("", "MENU_FILE"));
+}
+
+TEST_F(ScreenForms, AMenuNameIsTakenByAnyObjectAndOtherFormsMenus) {
+    ASSERT_TRUE(DrawForm());
+    ASSERT_TRUE(Draw(type::Button, 10, 10, 46, 20));
+    ASSERT_TRUE(DrawForm());
+    Form(1)->SetMenus({{"Open"}}, {"MENU_FIRST"});
+    Form(2)->SetMenus({{"Cut"}}, {"MENU_OWN"});
+    // A button on the other form, a form, a menu of the other form.
+    EXPECT_TRUE(screen.IsNameTakenForMenu(*Form(2), "BUTTON_1"));
+    EXPECT_TRUE(screen.IsNameTakenForMenu(*Form(2), "FORM_1"));
+    EXPECT_TRUE(screen.IsNameTakenForMenu(*Form(2), "MENU_FIRST"));
+    // The form's own menus are the editor's to judge.
+    EXPECT_FALSE(screen.IsNameTakenForMenu(*Form(2), "MENU_OWN"));
+    EXPECT_FALSE(screen.IsNameTakenForMenu(*Form(2), "MENU_"));
 }
 
 TEST_F(ScreenForms, UpdateMenusReplacesTheMenusAndNumbersThem) {

@@ -62,21 +62,32 @@ QLabel* ItemsDialog::MakeLabel(const char* name, const char* text, QWidget* budd
     return label;
 }
 
-void ItemsDialog::LayOutShared(QGridLayout* grid, int topRow, int buttonRow) {
-    grid->addWidget(MakeLabel("lblNewItem", "Item Name", txtNewItem_), 0, 0);
-    grid->addWidget(txtNewItem_, 1, 0);
-    grid->addWidget(cmdAdd_, 1, 1);
-    grid->addWidget(MakeLabel("lblItems", "List", lbItems_), 2, 0);
-    grid->addWidget(lbItems_, 3, 0, 6, 1);
-    grid->addWidget(cmdRemove_, 3, 1);
-    grid->addWidget(cmdRemoveAll_, 4, 1);
-    grid->addWidget(cmdMoveUp_, 5, 1);
-    grid->addWidget(cmdMoveDown_, 6, 1);
-    grid->addWidget(cmdSort_, 7, 1);
-    grid->addWidget(MakeLabel("lblTopItemNum", "Top Item", cmbTopItemNum_), topRow, 0);
-    grid->addWidget(cmbTopItemNum_, topRow + 1, 0);
+void ItemsDialog::LayOutShared(QGridLayout* grid, int firstRow, int topRow, int buttonRow) {
+    const int r = firstRow;
+    grid->addWidget(MakeLabel("lblNewItem", "Item Name", txtNewItem_), r, 0);
+    grid->addWidget(txtNewItem_, r + 1, 0);
+    grid->addWidget(cmdAdd_, r + 1, 1);
+    grid->addWidget(MakeLabel("lblItems", "List", lbItems_), r + 2, 0);
+    grid->addWidget(lbItems_, r + 3, 0, 6, 1);
+    grid->addWidget(cmdRemove_, r + 3, 1);
+    grid->addWidget(cmdRemoveAll_, r + 4, 1);
+    grid->addWidget(cmdMoveUp_, r + 5, 1);
+    grid->addWidget(cmdMoveDown_, r + 6, 1);
+    grid->addWidget(cmdSort_, r + 7, 1);
+    if (topRow >= 0) {
+        grid->addWidget(MakeLabel("lblTopItemNum", "Top Item", cmbTopItemNum_), topRow, 0);
+        grid->addWidget(cmbTopItemNum_, topRow + 1, 0);
+    } else {
+        cmbTopItemNum_->hide();
+    }
     grid->addWidget(cmdOK_, buttonRow, 0);
     grid->addWidget(cmdCancel_, buttonRow, 1);
+}
+
+void ItemsDialog::EnableItems(bool on) {
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             txtNewItem_, lbItems_, cmdAdd_, cmdRemove_, cmdRemoveAll_, cmdSort_, cmdMoveUp_, cmdMoveDown_})
+        control->setEnabled(on);
 }
 
 void ItemsDialog::FillAll() {
@@ -90,8 +101,10 @@ void ItemsDialog::FillItems(int highlight) {
     const auto& items = edit_.Items();
     for (std::size_t i = 0; i < items.size(); ++i) {
         auto* item = new QListWidgetItem(FromCp1252(items[i]), lbItems_);
-        item->setFlags(Qt::ItemIsUserCheckable | Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-        item->setCheckState(static_cast<int>(i) == edit_.Selected() ? Qt::Checked : Qt::Unchecked);
+        if (marks_) {
+            item->setFlags(Qt::ItemIsUserCheckable | Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+            item->setCheckState(static_cast<int>(i) == edit_.Selected() ? Qt::Checked : Qt::Unchecked);
+        }
     }
     if (highlight >= 0 && highlight < lbItems_->count()) lbItems_->setCurrentRow(highlight);
     filling_ = false;
@@ -120,6 +133,7 @@ void ItemsDialog::Add() {
         FillItems(static_cast<int>(edit_.Items().size()) - 1);
         FillTopItems();
         txtNewItem_->clear();
+        ItemsChanged();
     });
 }
 
@@ -130,6 +144,7 @@ void ItemsDialog::Remove() {
         edit_.Remove(row);
         FillItems(std::min(row, static_cast<int>(edit_.Items().size()) - 1));
         FillTopItems();
+        ItemsChanged();
     });
 }
 
@@ -137,6 +152,7 @@ void ItemsDialog::RemoveAll() {
     RunGuarded([&] {
         edit_.RemoveAll();
         FillAll();
+        ItemsChanged();
     });
 }
 
@@ -145,6 +161,7 @@ void ItemsDialog::Move(bool up) {
         const int row = lbItems_->currentRow();
         if (row < 0) return;
         FillItems(up ? edit_.MoveUp(row) : edit_.MoveDown(row));
+        ItemsChanged();
     });
 }
 
@@ -152,6 +169,7 @@ void ItemsDialog::Sort() {
     RunGuarded([&] {
         edit_.Sort();
         FillAll();
+        ItemsChanged();
     });
 }
 

@@ -31,11 +31,18 @@ protected:
     virtual std::vector<std::string> TopItemChoices() const = 0;
     virtual void Ok() { accept(); }
 
-    // Lays the shared controls out in the grid from row 0, and the top item
-    // at `topRow`; OK and Cancel go at `buttonRow`.
-    void LayOutShared(QGridLayout* grid, int topRow, int buttonRow);
+    // Lays the shared controls out in the grid from row `firstRow`, and the
+    // top item at `topRow` (none when it is negative); OK and Cancel go at
+    // `buttonRow`.
+    void LayOutShared(QGridLayout* grid, int firstRow, int topRow, int buttonRow);
     // Fills the items and the top item's choices from the editing.
     void FillAll();
+    // Items without a check mark, for an editor with no selected item.
+    void WithoutMarks() { marks_ = false; }
+    // The item controls taken in or out of use together.
+    void EnableItems(bool on);
+    // Told after every change of the items made here.
+    virtual void ItemsChanged() {}
 
     QPushButton* MakeButton(const char* name, const char* text);
     QLabel* MakeLabel(const char* name, const char* text, QWidget* buddy);
@@ -43,6 +50,7 @@ protected:
     bool filling_ = false;
 
 private:
+    bool marks_ = true;
     void FillItems(int highlight);
     void FillTopItems();
     void ItemTicked(QListWidgetItem* item);

@@ -1,6 +1,5 @@
 #include "objects/list/ListEditing.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "document/Host.h"
@@ -36,25 +35,7 @@ void ListEditing::LinkList(int position, bool on) {
     if (position >= 0 && position < static_cast<int>(flags_.size())) flags_[static_cast<std::size_t>(position)] = on;
 }
 
-bool ListEditing::Add(const std::string& text) {
-    if (limit_ >= 0 && static_cast<int>(items_.size()) >= limit_) {
-        host().MessageBox("Maximum number of items reached", "Limit reached", MessageButtons::OK);
-        return false;
-    }
-    const std::string item = TrimSpaces(text);
-    if (item.empty()) return false;
-    if (std::find(items_.begin(), items_.end(), item) != items_.end()) {
-        host().MessageBox("Duplicate items not allowed", "List Editor", MessageButtons::OK);
-        return false;
-    }
-    items_.push_back(item);
-    return true;
-}
-
-
-
-
-
+bool ListEditing::Add(const std::string& text) { return AddWithinLimit(text, limit_); }
 
 bool ListEditing::Accept(const std::string& maxNumText) {
     if (!IsNumeric(maxNumText) || ToReal(maxNumText) < 0 || ToReal(maxNumText) > 65534) {

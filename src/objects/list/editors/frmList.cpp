@@ -18,7 +18,7 @@ frmList::frmList(ListEditing& edit, QWidget* parent)
     lbLists_->setObjectName("lbLists");
 
     auto* grid = new QGridLayout(this);
-    LayOutShared(grid, 9, 15);
+    LayOutShared(grid, 0, 9, 15);
     grid->addWidget(MakeLabel("lblMaxNum", "Max Num on Display", txtMaxNum_), 11, 0);
     grid->addWidget(txtMaxNum_, 12, 0);
     grid->addWidget(MakeLabel("lblLists", "Related Lists", lbLists_), 13, 0);

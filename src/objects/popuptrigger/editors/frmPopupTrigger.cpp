@@ -6,7 +6,7 @@ namespace tolva {
 
 frmPopupTrigger::frmPopupTrigger(PopupTriggerEditing& edit, QWidget* parent)
     : ItemsDialog(edit, "frmPopupTrigger", "Popup Trigger Editor", parent), edit_(edit) {
-    LayOutShared(new QGridLayout(this), 9, 11);
+    LayOutShared(new QGridLayout(this), 0, 9, 11);
     FillAll();
 }
 
