@@ -15,15 +15,11 @@
 #include "shell/FilePaths.h"
 #include "shell/MainWindowFixture.h"
 #include "shell/modMain.h"
+#include "support/FileBytes.h"
 
 namespace tolva::testing {
 
 namespace fs = std::filesystem;
-
-inline std::string ReadFile(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 // The main window with its value lists, active, and a fresh directory for
 // the files a test saves; the mouse on the canvas and the keyboard in the

@@ -10,6 +10,7 @@
 #include "objects/form/ctlKOMAForm.h"
 #include "resfile/ResourceFiles.h"
 #include "shell/FilePaths.h"
+#include "support/FileBytes.h"
 #include "shell/MainWindowFixture.h"
 #include "shell/RunGuarded.h"
 
@@ -24,11 +25,6 @@ constexpr const char* kBitmapWarning =
     "resolve all paths.";
 constexpr const char* kCloseQuestion =
     "Save Before Quitting?: Do you want to save your changes before exiting?";
-
-std::string ReadFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 class FileCommands : public MainWindowTest {
 protected:

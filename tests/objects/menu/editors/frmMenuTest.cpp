@@ -26,6 +26,7 @@
 #include "resfile/ResourceFiles.h"
 #include "screen/ScreenFixture.h"
 #include "shell/ObjectDialogs.h"
+#include "support/FileBytes.h"
 
 namespace tolva::testing {
 namespace {
@@ -84,11 +85,6 @@ QStringList Menus(QWidget& dialog) {
 const char* const kMenuControls[] = {"cmdCopy",   "cmdDelete",    "txtNewItem", "lbItems",
                                      "cmdAdd",    "cmdRemove",    "cmdRemoveAll", "cmdSort",
                                      "cmdMoveUp", "cmdMoveDown"};
-
-std::string ReadFile(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 class frmMenuTest : public ScreenTest {
 protected:
