@@ -11,8 +11,8 @@
 //                               hundred times.
 //
 // A tenth of the objects are forms; each form holds nine objects of the
-// other kinds in turn, listed in its record, so the load embeds them all and
-// the save writes every form's list of IDs. The small size is loaded and
+// other kinds (menus among them) in turn, listed in its record, so the load
+// embeds them all and the save writes every form's list of IDs. The small size is loaded and
 // saved ten times (into ten screens that stay alive), the large one once, so
 // that both fill the same memory; the two are timed in turn, five times
 // each, and each one's median counts. IDs stay below 32,768, as the file wants.
@@ -293,6 +293,15 @@ void WritePopupTrigger(std::ostream& out, const std::string& name, int id, int s
     out << "#END_CONTROL\r\n";
 }
 
+// A menu of four items; the form's list makes it one of the form's menus.
+void WriteMenu(std::ostream& out, const std::string& name, int id, int) {
+    out << "#MENU\r\nNAME=" << name << "\r\nID=" << id << "\r\n~F0\r\n(B)OBJECT.TYPE=MENU\r\n~F1\r\n"
+        << "(SH)BOUNDS.X=0\r\n(SH)BOUNDS.Y=0\r\n(SH)BOUNDS.WIDTH=10\r\n(SH)BOUNDS.HEIGHT=10\r\n~F2\r\n"
+        << "(U)MENU_NUM_ITEMS=4\r\n~F3\r\n(SH)MENU_SELECTED_ITEM=-1\r\n~F4\r\n";
+    for (int i = 1; i <= 4; ++i) out << "(S)MENU_ITEMS" << i << "=Command " << i << "\r\n";
+    out << "~F5\r\n(BO)MENU_VISIBLE=TRUE\r\n#END_MENU\r\n";
+}
+
 // The kinds a form holds, in turn: the name prefix, the word of the form's
 // list and the record writer.
 struct ObjectKind {
@@ -314,6 +323,7 @@ const ObjectKind kObjectKinds[] = {
     {"SCROLLBAR_", "SCROLLBAR", WriteScrollbar},
     {"LIST_", "LIST", WriteList},
     {"POPUPTRIGGER_", "CONTROL", WritePopupTrigger},
+    {"MENU_", "MENU", WriteMenu},
 };
 constexpr int kObjectsPerForm = 9;
 
@@ -384,7 +394,8 @@ Figures RunDesigns(int objects, int designs, const std::string& directory) {
             figures.loadMs += std::chrono::duration<double, std::milli>(t1 - t0).count();
             figures.saveMs += std::chrono::duration<double, std::milli>(t2 - t1).count();
             const int forms = objects / (kObjectsPerForm + 1);
-            const int made = static_cast<int>(screen.IndexedObjectCount());
+            // Menus are data of their forms, not objects of the index.
+            const int made = static_cast<int>(screen.IndexedObjectCount()) + screen.NumMenus();
             figures.ok = loaded && screen.NumForms() == forms &&
                          made == forms * (kObjectsPerForm + 1) && host.messages == 0;
             if (!figures.ok)
