@@ -1,8 +1,10 @@
 #include "objects/menu/ctlKOMAMenu.h"
 
+#include "document/Host.h"
 #include "document/Numbers.h"
 #include "document/ObjectTypes.h"
 #include "document/Words.h"
+#include "objects/list/ListEditing.h"
 #include "resfile/Banners.h"
 
 namespace tolva {
@@ -32,6 +34,28 @@ void ctlKOMAMenu::RemoveListItem(int position) {
     if (position < 0 || position >= static_cast<int>(items_.size())) return;
     items_.erase(items_.begin() + position);
     SizeToItems();
+}
+
+void ctlKOMAMenu::MouseDown(int button, int shift, double x, double y) {
+    if ((button & kRightButton) == 0) {
+        KomaObject::MouseDown(button, shift, x, y);
+        return;
+    }
+    const std::optional<int> choice = host().PopupMenu(
+        "Set Properties", {{"mnuEditMenu", "Edit Menu..."}, {"mnuClearMenu", "Clear Menu"}});
+    if (!choice) return;
+    if (*choice == 0) {
+        ListEditing edit(host());
+        edit.SetList(items_, selected_, static_cast<int>(items_.size()), 0);
+        if (!host().RunDialog(edit)) return;
+        SetList(edit.Items(), edit.Selected());
+    } else if (*choice == 1) {
+        // Clearing empties the menu: no item, nothing selected.
+        SetList({}, -1);
+    } else {
+        return;
+    }
+    RaisePicChanged();
 }
 
 // --- inspector rows: the record's own key words as labels ---------------------------------

@@ -36,6 +36,10 @@ public:
     void GetPropertyList(PropertyArray& rows) override;
     bool SetPropertyList(const PropertyArray& rows) override;
     bool CopyModelFrom(const KomaObject& other) override;
+    // A right click offers "Edit Menu..." (the List Editor on the items)
+    // and "Clear Menu". Nothing in the editor shows a preview that can be
+    // clicked; these serve a preview shown anywhere else.
+    void MouseDown(int button, int shift, double x, double y) override;
     // The fuller record, with comments; the file takes the form's own.
     void ReturnResourceFileText(LineList& lines, bool& ok) override;
     // The frame and one line for each item (MenuPreview.cpp).

@@ -3,6 +3,7 @@
 // name refusal, and its fuller record.
 #include <gtest/gtest.h>
 
+#include "objects/list/ListEditing.h"
 #include "objects/menu/ctlKOMAMenu.h"
 #include "objects/menu/modMenu.h"
 #include "support/NamedElement.h"
@@ -79,6 +80,56 @@ TEST_F(MenuPreviewTest, TheFullerRecordHasItsComments) {
               (Lines{"(U)MENU_NUM_ITEMS=1", "~F3", "//NO_SELECTION or 0 - ??", "(SH)MENU_SELECTED_ITEM=0", "~F4",
                      "//any text", "(S)MENU_ITEMS1=Open", "~F5", "//TRUE or FALSE", "(BO)MENU_VISIBLE=TRUE",
                      "#END_MENU"}));
+}
+
+TEST_F(MenuPreviewTest, ARightClickOffersEditMenuAndClearMenu) {
+    owner.host.popupAnswers = {std::nullopt};
+    menu.MouseDown(kRightButton, 0, 5, 5);
+    ASSERT_EQ(owner.host.popups.size(), 1u);
+    EXPECT_EQ(owner.host.popups[0].first, "Set Properties");
+    EXPECT_EQ(owner.host.popups[0].second, (Lines{"Edit Menu...", "Clear Menu"}));
+    EXPECT_EQ(owner.host.popupNames[0], (Lines{"mnuEditMenu", "mnuClearMenu"}));
+    EXPECT_TRUE(owner.host.dialogs.empty());
+}
+
+TEST_F(MenuPreviewTest, EditMenuRunsTheListEditorOnTheItems) {
+    menu.SetList({"Open"}, 0);
+    std::vector<std::string> given;
+    owner.host.popupAnswers = {0};
+    owner.host.dialogAnswers.push_back([&](DialogModel& model) {
+        auto& edit = dynamic_cast<ListEditing&>(model);
+        given = edit.Items();
+        EXPECT_TRUE(edit.Add("Close"));
+        return true;
+    });
+    owner.events.clear();
+    menu.MouseDown(kRightButton, 0, 5, 5);
+    EXPECT_EQ(owner.host.dialogs, (Lines{"frmList"}));
+    EXPECT_EQ(given, (Lines{"Open"}));
+    EXPECT_EQ(menu.Items(), (Lines{"Open", "Close"}));
+    EXPECT_EQ(menu.KOMASelectedItem(), 0);
+    EXPECT_DOUBLE_EQ(menu.Height(), 10 * 2 * kP + 160);
+    EXPECT_EQ(owner.events, (Lines{"PicChanged"}));
+}
+
+TEST_F(MenuPreviewTest, ACancelledEditKeepsTheItems) {
+    menu.SetList({"Open"}, 0);
+    owner.host.popupAnswers = {0};
+    owner.host.dialogAnswers.push_back([](DialogModel& model) {
+        dynamic_cast<ListEditing&>(model).RemoveAll();
+        return false;
+    });
+    menu.MouseDown(kRightButton, 0, 5, 5);
+    EXPECT_EQ(menu.Items(), (Lines{"Open"}));
+}
+
+TEST_F(MenuPreviewTest, ClearMenuEmptiesIt) {
+    menu.SetList({"Open", "Save"}, 1);
+    owner.host.popupAnswers = {1};
+    menu.MouseDown(kRightButton, 0, 5, 5);
+    EXPECT_TRUE(menu.Items().empty());
+    EXPECT_EQ(menu.KOMASelectedItem(), -1);
+    EXPECT_DOUBLE_EQ(menu.Height(), 160);
 }
 
 }  // namespace
