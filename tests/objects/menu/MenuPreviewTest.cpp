@@ -70,6 +70,18 @@ TEST_F(MenuPreviewTest, ATakenNameIsRefusedAsAMenuName) {
     EXPECT_EQ(menu.KOMAName(), "MENU_");
 }
 
+TEST_F(MenuPreviewTest, SizesBeyond160AreRefusedWithTheirMessages) {
+    PropertyArray rows = Rows();
+    rows.At(3, 4) = PropertyCell(std::string("161"));
+    rows.At(3, 5) = PropertyCell(std::string("170"));
+    rows.At(3, 6) = PropertyCell(std::string("FALSE"));
+    ASSERT_TRUE(menu.SetPropertyList(rows));
+    EXPECT_EQ(owner.host.MessageLines(),
+              (Lines{"KOMAHeight: Invalid height value", "KOMAWidth: Invalid width value"}));
+    EXPECT_FALSE(menu.KOMAVisible());
+    EXPECT_EQ(menu.KOMAVisibleWord(), "FALSE");
+}
+
 TEST_F(MenuPreviewTest, TheFullerRecordHasItsComments) {
     menu.SetList({"Open"}, 0);
     LineList lines;
