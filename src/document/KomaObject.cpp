@@ -339,6 +339,16 @@ bool KomaObject::CopyModelFrom(const KomaObject& other) {
     return true;
 }
 
+bool KomaObject::CopyCellMembersFrom(const KomaObject&) { return false; }
+
+void KomaObject::CopyCellPlaceFrom(const KomaObject& other) {
+    boundsX_ = other.boundsX_;
+    boundsY_ = other.boundsY_;
+    relatedTableId_ = other.relatedTableId_;
+    width_ = other.width_;
+    height_ = other.height_;
+}
+
 void KomaObject::CopySharedModelFrom(const KomaObject& other) {
     const std::string oldName = name_;
     linkedToTable_ = other.linkedToTable_;

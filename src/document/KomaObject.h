@@ -137,6 +137,11 @@ public:
     // The per-type copy of every model property of other (a same-type
     // object), ParentForm included. False when it fails.
     virtual bool CopyModelFrom(const KomaObject& other);
+    // The copy by which an object moves into a table cell, out to the
+    // editor of a cell's object and back: exactly the members its kind
+    // lists, nothing else; name and id stay. False for another kind, and for
+    // a kind that cannot stand in a cell.
+    virtual bool CopyCellMembersFrom(const KomaObject& other);
 
     // --- drawing ----------------------------------------------------------------
     // The object laid out into its draw elements, back to front, in screen
@@ -204,6 +209,9 @@ protected:
 
     // Copies the shared model properties (not the canvas place).
     void CopySharedModelFrom(const KomaObject& other);
+    // What every kind that may stand in a cell copies of the shared model:
+    // X, Y, the related table, width and height.
+    void CopyCellPlaceFrom(const KomaObject& other);
 
     // Raise events to the owner.
     void RaiseMoved();

@@ -63,6 +63,16 @@ bool KomaControl::CopyModelFrom(const KomaObject& other) {
     return true;
 }
 
+void KomaControl::CopyCellHeadFrom(const KomaControl& other) {
+    CopyCellPlaceFrom(other);
+    subtypeWord_ = other.subtypeWord_;
+    controlText_ = other.controlText_;
+    alignmentWord_ = other.alignmentWord_;
+    enableWord_ = other.enableWord_;
+    activeWord_ = other.activeWord_;
+    visibleWord_ = other.visibleWord_;
+}
+
 void KomaControl::AppendControlHead(LineList& lines, const HeadComments& comments) const {
     AppendRecordBanner(lines, KOMAName(), true);
     AppendHeadA(lines, *this, "#CONTROL", comments.size);

@@ -70,6 +70,10 @@ protected:
         // it empty.
         std::string attributes = "//TRUE or FALSE";
     };
+    // What every control copies into a cell: the place of every kind, then
+    // subtype, text, alignment and the three attributes.
+    void CopyCellHeadFrom(const KomaControl& other);
+
     // Appends the banner and the head of the record, "#CONTROL" to the
     // "(BO)CONTROL_ATTR.VISIBLE=" line.
     void AppendControlHead(LineList& lines, const HeadComments& comments) const;

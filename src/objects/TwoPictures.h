@@ -68,6 +68,21 @@ public:
 protected:
     ObjectPicture& Of(int which) { return which == 1 ? bitmap1_ : bitmap2_; }
 
+    // What a cell takes of both pictures: file and size, with the picture
+    // shown; places and depths stay.
+    void CopyCellPicturesFrom(const TwoPictures& other) {
+        for (int which = 1; which <= 2; ++which) {
+            ObjectPicture& mine = Of(which);
+            const ObjectPicture& theirs = which == 1 ? other.bitmap1_ : other.bitmap2_;
+            mine.file = theirs.file;
+            mine.width = theirs.width;
+            mine.height = theirs.height;
+            mine.loaded = theirs.loaded;
+            mine.pixelWidth = theirs.pixelWidth;
+            mine.pixelHeight = theirs.pixelHeight;
+        }
+    }
+
     ObjectPicture bitmap1_;
     ObjectPicture bitmap2_;
 

@@ -32,6 +32,8 @@ public:
     void GetPropertyList(PropertyArray& rows) override;
     bool SetPropertyList(const PropertyArray& rows) override;
     bool CopyModelFrom(const KomaObject& other) override;
+    // The members a cell takes (ButtonCellCopy.cpp).
+    bool CopyCellMembersFrom(const KomaObject& other) override;
     // The record and a loaded record applied (ButtonRecord.cpp).
     void ReturnResourceFileText(LineList& lines, bool& ok) override;
     void SetFromResText(const GroupList& groups, bool& ok) override;

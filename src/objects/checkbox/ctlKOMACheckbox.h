@@ -56,6 +56,8 @@ public:
     void GetPropertyList(PropertyArray& rows) override;
     bool SetPropertyList(const PropertyArray& rows) override;
     bool CopyModelFrom(const KomaObject& other) override;
+    // The members a cell takes (CheckboxCellCopy.cpp).
+    bool CopyCellMembersFrom(const KomaObject& other) override;
     // The record and a loaded record applied (CheckboxRecord.cpp).
     void ReturnResourceFileText(LineList& lines, bool& ok) override;
     void SetFromResText(const GroupList& groups, bool& ok) override;

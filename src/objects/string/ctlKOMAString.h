@@ -35,6 +35,8 @@ public:
     void GetPropertyList(PropertyArray& rows) override;
     bool SetPropertyList(const PropertyArray& rows) override;
     bool CopyModelFrom(const KomaObject& other) override;
+    // The members a cell takes (StringCellCopy.cpp).
+    bool CopyCellMembersFrom(const KomaObject& other) override;
     // The record and a loaded record applied (StringRecord.cpp).
     void ReturnResourceFileText(LineList& lines, bool& ok) override;
     void SetFromResText(const GroupList& groups, bool& ok) override;

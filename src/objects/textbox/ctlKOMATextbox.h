@@ -45,6 +45,8 @@ public:
     void GetPropertyList(PropertyArray& rows) override;
     bool SetPropertyList(const PropertyArray& rows) override;
     bool CopyModelFrom(const KomaObject& other) override;
+    // The members a cell takes (TextboxCellCopy.cpp).
+    bool CopyCellMembersFrom(const KomaObject& other) override;
     // The record and a loaded record applied (TextboxRecord.cpp).
     void ReturnResourceFileText(LineList& lines, bool& ok) override;
     void SetFromResText(const GroupList& groups, bool& ok) override;
