@@ -265,7 +265,8 @@ bool KomaObject::HasOwnRowShape(const PropertyArray& rows) const {
     return rows.Columns() == 3 && rows.Rows() == PropertyRowCount();
 }
 
-void KomaObject::ApplyNameRow(const PropertyArray& rows, const std::string& refusal) {
+void KomaObject::ApplyNameRow(const PropertyArray& rows, const std::string& refusal,
+                              const std::string& refusalTitle) {
     // 2. The name: it must pass the name rule and differ; then it must be free.
     // A name row the user emptied is no name at all: it is passed over like
     // any other text that fails the rule, and the old name stays.
@@ -274,7 +275,7 @@ void KomaObject::ApplyNameRow(const PropertyArray& rows, const std::string& refu
         if (!owner_ || owner_->IsNewNameUnique(name_, newName)) {
             KOMAName(newName);
         } else {
-            Message(refusal.empty() ? LoadResString(msg::NameMustBeUnique) : refusal);
+            Message(refusal.empty() ? LoadResString(msg::NameMustBeUnique) : refusal, refusalTitle);
         }
     }
 }

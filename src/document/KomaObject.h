@@ -166,6 +166,12 @@ protected:
     // A message box through the owner's host; empty title: the application's.
     void Message(const std::string& text, const std::string& title = "") const;
 
+    // Stores KOMAWidth and KOMAHeight as they are, with no range test, for
+    // a class whose size is worked out from its contents.
+    void StoreSize(int width, int height) {
+        width_ = width;
+        height_ = height;
+    }
     // Stores the related table's ID as it is, for a class whose setter tests
     // something else.
     void StoreRelatedTableID(long id) { relatedTableId_ = id; }
@@ -182,8 +188,9 @@ protected:
     // rows (each followed by the moved event), the height and width rows.
     bool HasOwnRowShape(const PropertyArray& rows) const;
     // A name that is taken is refused with `refusal`, by default "Object name
-    // must be unique".
-    void ApplyNameRow(const PropertyArray& rows, const std::string& refusal = "");
+    // must be unique", under `refusalTitle` (by default the application's).
+    void ApplyNameRow(const PropertyArray& rows, const std::string& refusal = "",
+                      const std::string& refusalTitle = "");
     void ApplyPositionRows(const PropertyArray& rows);
     void ApplySizeRows(const PropertyArray& rows);
     // A changed X or Y row, after the setter and before the moved event: a

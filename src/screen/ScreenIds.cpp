@@ -2,6 +2,7 @@
 // no memory of earlier ids. Ids are thus a function of the array orders.
 #include "screen/ctlTolvaScreen.h"
 #include "objects/form/ctlKOMAForm.h"
+#include "objects/table/ctlKOMATable.h"
 
 namespace tolva {
 
@@ -14,9 +15,7 @@ void ctlTolvaScreen::DistributeObjectIds() {
     // 2. Tables, each followed by the objects of its cells.
     for (const auto& table : arrays_[type::Table]) {
         table->KOMAObjectID(id++);
-        // HOOK (table cells): the objects in the table's cells take the ids
-        // that follow, here, once the table has DistributeEmbeddedObjectIDs:
-        // it takes the running id and leaves the next free one in it.
+        static_cast<ctlKOMATable&>(*table).DistributeEmbeddedObjectIDs(id);
     }
 
     // 3. The menus of each form.

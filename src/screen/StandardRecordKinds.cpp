@@ -19,6 +19,7 @@
 #include "objects/menu/modMenu.h"
 #include "objects/schedulerline/modSchline.h"
 #include "objects/scrollbar/modScrollbar.h"
+#include "objects/table/modTable.h"
 #include "objects/textbox/modTextbox.h"
 
 namespace tolva {
@@ -42,7 +43,7 @@ RecordKinds MakeStandardKinds() {
          "Could not create scrollbar"},
         {"#STRING", type::String, ParseStringRecord, "Could not load string object",
          "Could not create string"},
-        {"#TABLE", type::Table, nullptr, "Could not load table object", "Could not create table"},
+        {"#TABLE", type::Table, ParseTableRecord, "Could not load table object", "Could not create table"},
         {"#TEXTBOX", type::Textbox, ParseTextboxRecord, "Could not load textbox object",
          "Could not create textbox"},
     };

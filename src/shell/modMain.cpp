@@ -22,6 +22,7 @@
 #include "objects/menu/modMenu.h"
 #include "objects/schedulerline/modSchline.h"
 #include "objects/scrollbar/modScrollbar.h"
+#include "objects/table/modTable.h"
 #include "objects/textbox/modTextbox.h"
 #include "canvas/qt/CanvasWidget.h"
 #include "platform/QtHost.h"
@@ -69,7 +70,7 @@ const std::vector<ValueListStep>& ValueListSteps() {
         {"popup trigger", type::PopupTrigger, &FillPopupTriggerValueLists},
         {"scrollbar", type::Scrollbar, &FillScrollbarValueLists},
         {"scheduler line", type::SchedulerLine, &FillSchlineValueLists},
-        {"table", type::Table, nullptr},
+        {"table", type::Table, &FillTableValueLists},
     };
     return steps;
 }

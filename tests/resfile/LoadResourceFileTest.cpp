@@ -87,11 +87,13 @@ TEST_F(LoadTest, AMissingFileIsARunTimeFailure) {
     EXPECT_TRUE(host.messages.empty());
 }
 
-TEST_F(LoadTest, ASectionNoKindReadsYetEndsTheLoadOfAFile) {
+TEST_F(LoadTest, ATableRecordThatDoesNotFitEndsTheLoadOfAFile) {
     WriteBytes(path, Text(Record("#TABLE", "TABLE_1", 0)));
     EXPECT_FALSE(LoadResourceFile(screen, path));
     EXPECT_EQ(host.MessageLines(),
-              std::vector<std::string>{"Load Error: Invalid/unsupported resource object"});
+              (std::vector<std::string>{"Tolva Resource Editor: Error on line 5:  TYPE=TABLE",
+                                        "Load Error: Could not load table object",
+                                        "Load Error: Invalid/unsupported resource object"}));
     EXPECT_EQ(screen.NumTables(), 0);
 }
 

@@ -46,10 +46,19 @@ TEST_F(ScreenLoadEntries, CreateObjectInTableAnswersFalseForAnUnknownTable) {
     EXPECT_TRUE(Logged("Couldn't find requested object: TABLE_9"));
 }
 
-TEST_F(ScreenLoadEntries, ATableWithNoGridOfObjectsRefusesEveryCell) {
+TEST_F(ScreenLoadEntries, ALoadedObjectGoesIntoACellOfTheGridOnly) {
     ASSERT_TRUE(DrawForm());
     ASSERT_TRUE(Draw(type::Table, 10, 10, 20, 20));
-    EXPECT_FALSE(screen.CreateObjectInTable("TABLE_1", 1, 1, type::Button, {{"B"}}));
+    EXPECT_FALSE(screen.CreateObjectInTable("TABLE_1", 2, 1, type::Button, {{"B"}}));
+    EXPECT_FALSE(screen.CreateObjectInTable("TABLE_9", 1, 1, type::Button, {{"B"}}));
+    EXPECT_TRUE(screen.CreateObjectInTable("TABLE_1", 1, 1, type::Button, {{"B"}}));
+    auto* table = static_cast<ctlKOMATable*>(screen.ObjectAt(type::Table, 1));
+    EXPECT_EQ(table->CellObjectCount(), 1);
+    // A kind that cannot stand in a cell leaves it empty.
+    EXPECT_TRUE(screen.CreateObjectInTable("TABLE_1", 1, 1, type::Line, {{"L"}}));
+    EXPECT_EQ(table->CellObjectCount(), 0);
+    // Nothing of a cell object is in the screen's registry.
+    EXPECT_EQ(screen.Count(type::Button), 0);
 }
 
 }  // namespace
