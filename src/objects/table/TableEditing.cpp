@@ -29,6 +29,70 @@ TableCell& TableEditing::CellAt(int row, int column) {
     return cells_.at(static_cast<std::size_t>(row - 1)).at(static_cast<std::size_t>(column - 1));
 }
 
+long long TableEditing::TotalHeight() const {
+    long long total = 0;
+    for (int height : rowHeights_) total += height;
+    return total;
+}
+
+long long TableEditing::TotalWidth() const {
+    long long total = 0;
+    for (int width : columnWidths_) total += width;
+    return total;
+}
+
+std::string TableEditing::TableSizeText() const {
+    return "Table Size: " + std::to_string(TotalHeight()) + " x " + std::to_string(TotalWidth());
+}
+
+void TableEditing::SelectTableCell(int row, int column) {
+    if (row < 1 || column < 1) return;
+    selectedRow_ = row;
+    selectedColumn_ = column;
+}
+
+std::string TableEditing::SelectedText() const {
+    return "Selected: " + std::to_string(selectedRow_) + ", " + std::to_string(selectedColumn_);
+}
+
+void TableEditing::InsertEditorRow(int row) {
+    const auto at = static_cast<std::size_t>(std::clamp(row, 1, Rows() + 1) - 1);
+    rowHeights_.insert(rowHeights_.begin() + static_cast<std::ptrdiff_t>(at), kNewRowHeight);
+    cells_.insert(cells_.begin() + static_cast<std::ptrdiff_t>(at),
+                  std::vector<TableCell>(static_cast<std::size_t>(columns_)));
+    table_.InsertRow(row);
+}
+
+void TableEditing::InsertEditorColumn(int column) {
+    const auto at = static_cast<std::size_t>(std::clamp(column, 1, columns_ + 1) - 1);
+    columnWidths_.insert(columnWidths_.begin() + static_cast<std::ptrdiff_t>(at), kNewColumnWidth);
+    for (auto& cells : cells_) cells.insert(cells.begin() + static_cast<std::ptrdiff_t>(at), TableCell{});
+    ++columns_;
+    table_.InsertColumn(column);
+}
+
+void TableEditing::DeleteEditorRow() {
+    if (Rows() <= 1) return;
+    const auto at = static_cast<std::size_t>(selectedRow_ - 1);
+    if (at >= cells_.size()) return;
+    rowHeights_.erase(rowHeights_.begin() + static_cast<std::ptrdiff_t>(at));
+    cells_.erase(cells_.begin() + static_cast<std::ptrdiff_t>(at));
+    table_.DeleteRow(selectedRow_);
+    selectedRow_ = std::min(selectedRow_, Rows());
+}
+
+void TableEditing::DeleteEditorColumn() {
+    if (columns_ <= 1) return;
+    const auto at = static_cast<std::size_t>(selectedColumn_ - 1);
+    if (static_cast<int>(at) >= columns_) return;
+    columnWidths_.erase(columnWidths_.begin() + static_cast<std::ptrdiff_t>(at));
+    for (auto& cells : cells_)
+        if (at < cells.size()) cells.erase(cells.begin() + static_cast<std::ptrdiff_t>(at));
+    --columns_;
+    table_.DeleteColumn(selectedColumn_);
+    selectedColumn_ = std::min(selectedColumn_, columns_);
+}
+
 void TableEditing::Done() {
     TableProperties properties;
     properties.rows = Rows();

@@ -33,6 +33,26 @@ public:
     const TableCell& CellAt(int row, int column) const;
     TableCell& CellAt(int row, int column);
 
+    // The sums of the heights and widths, and the label that shows them:
+    // "Table Size: " + height + " x " + width.
+    long long TotalHeight() const;
+    long long TotalWidth() const;
+    std::string TableSizeText() const;
+
+    // The selected cell, from 1; "Selected: " + row + ", " + column.
+    int SelectedRow() const { return selectedRow_; }
+    int SelectedColumn() const { return selectedColumn_; }
+    void SelectTableCell(int row, int column);
+    std::string SelectedText() const;
+
+    // Rows and columns: the copy and the table at once. A new row is 34
+    // high, a new column 48 wide, their cells new ones; one row or column
+    // is not deleted; a selection past the end moves to the last.
+    void InsertEditorRow(int row);
+    void InsertEditorColumn(int column);
+    void DeleteEditorRow();
+    void DeleteEditorColumn();
+
     // Done: the copy, row by row, into the table's SetTableProperties.
     void Done();
 
@@ -43,6 +63,8 @@ private:
     std::vector<int> rowHeights_;
     std::vector<int> columnWidths_;
     std::vector<std::vector<TableCell>> cells_;
+    int selectedRow_ = 1;
+    int selectedColumn_ = 1;
 };
 
 }  // namespace tolva
