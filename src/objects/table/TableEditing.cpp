@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "document/Host.h"
+#include "document/Numbers.h"
+#include "document/RuntimeFailure.h"
 #include "objects/table/ctlKOMATable.h"
 
 namespace tolva {
@@ -91,6 +94,113 @@ void TableEditing::DeleteEditorColumn() {
     --columns_;
     table_.DeleteColumn(selectedColumn_);
     selectedColumn_ = std::min(selectedColumn_, columns_);
+}
+
+TableEditing::Fields TableEditing::SelectedFields() const {
+    Fields boxes;
+    const TableCell& cell = CellAt(selectedRow_, selectedColumn_);
+    boxes.rowHeight = std::to_string(rowHeights_.at(static_cast<std::size_t>(selectedRow_ - 1)));
+    boxes.columnWidth = std::to_string(columnWidths_.at(static_cast<std::size_t>(selectedColumn_ - 1)));
+    boxes.dataType = cell.dataType;
+    boxes.font = cell.font;
+    boxes.value = std::to_string(cell.value);
+    boxes.alignment = cell.alignment;
+    boxes.fontColor = cell.fontColor;
+    boxes.backColor = cell.backColor;
+    boxes.highlight = cell.highlight;
+    boxes.hasBitmap = cell.hasBitmap;
+    boxes.text = cell.text;
+    return boxes;
+}
+
+void TableEditing::Choose(Field field, const std::string& word) {
+    TableCell& cell = CellAt(selectedRow_, selectedColumn_);
+    switch (field) {
+        case Field::Font: cell.font = word; break;
+        case Field::Alignment: cell.alignment = word; break;
+        case Field::FontColor: cell.fontColor = word; break;
+        case Field::BackColor: cell.backColor = word; break;
+        case Field::Highlight: cell.highlight = word; break;
+        case Field::HasBitmap: cell.hasBitmap = word; break;
+    }
+}
+
+void TableEditing::ChooseDataType(const std::string& word, Fields& boxes) {
+    TableCell& cell = CellAt(selectedRow_, selectedColumn_);
+    if (word == cell.dataType) return;
+    if (word != "TABLE_UI_OBJECT") {
+        KomaObject* none = nullptr;
+        bool ok = false;
+        table_.SetObject(selectedRow_, selectedColumn_, none, ok);
+    }
+    cell.dataType = word;
+    boxes.dataType = word;
+    Apply(boxes);
+}
+
+namespace {
+
+// A size box: a number from 2 to 210 (the box is corrected), else the
+// stored size comes back into it.
+void ApplySize(std::string& box, int& size) {
+    if (!IsNumeric(box)) {
+        box = std::to_string(size);
+        return;
+    }
+    const double asked = ToReal(box);
+    int wanted = 0;
+    if (asked < 2)
+        wanted = 2;
+    else if (asked >= 211)
+        wanted = 210;
+    else
+        wanted = static_cast<int>(RoundHalfEven(asked));
+    box = std::to_string(wanted);
+    size = wanted;
+}
+
+}  // namespace
+
+void TableEditing::Apply(Fields& boxes) {
+    ApplySize(boxes.rowHeight, rowHeights_.at(static_cast<std::size_t>(selectedRow_ - 1)));
+    ApplySize(boxes.columnWidth, columnWidths_.at(static_cast<std::size_t>(selectedColumn_ - 1)));
+    TableCell& cell = CellAt(selectedRow_, selectedColumn_);
+    cell.text = boxes.text;
+    try {
+        cell.value = ToInt32(boxes.value);
+    } catch (const RuntimeFailure&) {
+        host_.MessageBox("Error 13: Type mismatch", "", MessageButtons::OK);
+    }
+}
+
+void TableEditing::PrepareObjectEditing() { CellAt(selectedRow_, selectedColumn_).dataType = "TABLE_UI_OBJECT"; }
+
+void TableEditing::RemoveObject() {
+    KomaObject* none = nullptr;
+    bool ok = false;
+    table_.SetObject(selectedRow_, selectedColumn_, none, ok);
+    CellAt(selectedRow_, selectedColumn_).dataType = "TABLE_TEXT";
+}
+
+namespace {
+
+bool ResizeBy(std::vector<int>& sizes, int index, double delta, int least) {
+    if (index < 1 || index > static_cast<int>(sizes.size())) return false;
+    int& size = sizes[static_cast<std::size_t>(index - 1)];
+    const double wanted = size + delta;
+    if (wanted < least) return false;
+    size = static_cast<int>(RoundHalfEven(wanted));
+    return true;
+}
+
+}  // namespace
+
+bool TableEditing::ResizeRowBy(int row, double delta, int least) {
+    return ResizeBy(rowHeights_, row, delta, least);
+}
+
+bool TableEditing::ResizeColumnBy(int column, double delta, int least) {
+    return ResizeBy(columnWidths_, column, delta, least);
 }
 
 void TableEditing::Done() {

@@ -53,6 +53,49 @@ public:
     void DeleteEditorRow();
     void DeleteEditorColumn();
 
+    // The boxes of the "Table Properties" frame, as texts and words.
+    struct Fields {
+        std::string rowHeight;
+        std::string columnWidth;
+        std::string dataType;
+        std::string font;
+        std::string value;
+        std::string alignment;
+        std::string fontColor;
+        std::string backColor;
+        std::string highlight;
+        std::string hasBitmap;
+        std::string text;
+    };
+    // The boxes filled from the copy for the selected cell.
+    Fields SelectedFields() const;
+
+    // A word picked in one of the six lists goes into the copy at once.
+    enum class Field { Font, Alignment, FontColor, BackColor, Highlight, HasBitmap };
+    void Choose(Field field, const std::string& word);
+    // A new data type: any but "TABLE_UI_OBJECT" takes the cell's object
+    // off the table; the word goes into the copy; then Apply with the
+    // boxes. Nothing happens for the word already stored.
+    void ChooseDataType(const std::string& word, Fields& boxes);
+    // Apply: the boxes into the selected cell of the copy. A height or
+    // width that is no number gets the stored one back; below 2 it becomes
+    // 2, above 210 210 (the box shows it). A value that is no number ends
+    // Apply with "Error 13: Type mismatch" after the steps before it.
+    void Apply(Fields& boxes);
+
+    // The cell's object editing is about to open: the data type becomes
+    // "TABLE_UI_OBJECT" in the copy, whatever the object editor then does.
+    void PrepareObjectEditing();
+    // The cell's object goes from the table; the data type becomes
+    // "TABLE_TEXT".
+    void RemoveObject();
+
+    // A drag of a row's (column's) line: the size becomes the old one plus
+    // delta, rounded half to even, and the total follows; a size that would
+    // fall below `least` is not taken. False when nothing changed.
+    bool ResizeRowBy(int row, double delta, int least = 2);
+    bool ResizeColumnBy(int column, double delta, int least = 2);
+
     // Done: the copy, row by row, into the table's SetTableProperties.
     void Done();
 

@@ -85,5 +85,110 @@ TEST_F(TableEditingTest, DeletingTheLastRowSelectedLeavesTheSelectionOnTheNewLas
     EXPECT_EQ(table.KOMANumRows(), 1);
 }
 
+TEST_F(TableEditingTest, TheBoxesShowTheSelectedCell) {
+    TableEditing edit(owner.host, table);
+    edit.CellAt(1, 1).value = 42;
+    const TableEditing::Fields boxes = edit.SelectedFields();
+    EXPECT_EQ(boxes.rowHeight, "34");
+    EXPECT_EQ(boxes.columnWidth, "48");
+    EXPECT_EQ(boxes.dataType, "TABLE_TEXT");
+    EXPECT_EQ(boxes.value, "42");
+    EXPECT_EQ(boxes.text, "Text");
+}
+
+TEST_F(TableEditingTest, ApplyKeepsSizesFromTwoTo210) {
+    TableEditing edit(owner.host, table);
+    TableEditing::Fields boxes = edit.SelectedFields();
+    boxes.rowHeight = "1";
+    boxes.columnWidth = "500";
+    boxes.text = "Hello";
+    boxes.value = "-5";
+    edit.Apply(boxes);
+    EXPECT_EQ(boxes.rowHeight, "2");
+    EXPECT_EQ(boxes.columnWidth, "210");
+    EXPECT_EQ(edit.RowHeights()[0], 2);
+    EXPECT_EQ(edit.ColumnWidths()[0], 210);
+    EXPECT_EQ(edit.CellAt(1, 1).text, "Hello");
+    EXPECT_EQ(edit.CellAt(1, 1).value, -5);
+    EXPECT_EQ(edit.TableSizeText(), "Table Size: 2 x 210");
+    // A size that is no number comes back in silence.
+    boxes.rowHeight = "tall";
+    edit.Apply(boxes);
+    EXPECT_EQ(boxes.rowHeight, "2");
+    EXPECT_TRUE(owner.host.messages.empty());
+}
+
+TEST_F(TableEditingTest, AValueThatIsNoNumberEndsApplyWithTheError) {
+    TableEditing edit(owner.host, table);
+    TableEditing::Fields boxes = edit.SelectedFields();
+    boxes.rowHeight = "50";
+    boxes.text = "Kept";
+    boxes.value = "many";
+    edit.Apply(boxes);
+    EXPECT_EQ(owner.host.MessageLines(), (std::vector<std::string>{"Tolva Resource Editor: Error 13: Type mismatch"}));
+    EXPECT_EQ(edit.RowHeights()[0], 50);
+    EXPECT_EQ(edit.CellAt(1, 1).text, "Kept");
+    EXPECT_EQ(edit.CellAt(1, 1).value, 0);
+}
+
+TEST_F(TableEditingTest, WordsPickedGoIntoTheCopyAtOnce) {
+    TableEditing edit(owner.host, table);
+    edit.Choose(TableEditing::Field::Font, "MEDIUM_FONT");
+    edit.Choose(TableEditing::Field::Alignment, "RIGHT");
+    edit.Choose(TableEditing::Field::FontColor, "COLOR_WHITE");
+    edit.Choose(TableEditing::Field::BackColor, "COLOR_BLACK");
+    edit.Choose(TableEditing::Field::Highlight, "TRUE");
+    edit.Choose(TableEditing::Field::HasBitmap, "TRUE");
+    const TableCell& cell = edit.CellAt(1, 1);
+    EXPECT_EQ(cell.font, "MEDIUM_FONT");
+    EXPECT_EQ(cell.alignment, "RIGHT");
+    EXPECT_EQ(cell.fontColor, "COLOR_WHITE");
+    EXPECT_EQ(cell.backColor, "COLOR_BLACK");
+    EXPECT_EQ(cell.highlight, "TRUE");
+    EXPECT_EQ(cell.hasBitmap, "TRUE");
+}
+
+TEST_F(TableEditingTest, FromObjectToTextTheObjectGoesAndCancelKeepsTheOldType) {
+    ctlKOMAButton button;
+    KomaObject* object = &button;
+    bool ok = false;
+    table.SetObject(1, 1, object, ok);
+    TableProperties p = table.GetTableProperties();
+    p.cells[0].dataType = "TABLE_UI_OBJECT";
+    table.SetTableProperties(p);
+    {
+        TableEditing edit(owner.host, table);
+        TableEditing::Fields boxes = edit.SelectedFields();
+        edit.ChooseDataType("TABLE_TEXT", boxes);
+        EXPECT_EQ(edit.CellAt(1, 1).dataType, "TABLE_TEXT");
+    }
+    // No Done: the old data type, but no object.
+    EXPECT_EQ(table.Cells()[0].dataType, "TABLE_UI_OBJECT");
+    EXPECT_EQ(table.CellObjectCount(), 0);
+}
+
+TEST_F(TableEditingTest, ObjectEditingSetsTheTypeAndRemovingSetsText) {
+    TableEditing edit(owner.host, table);
+    edit.PrepareObjectEditing();
+    EXPECT_EQ(edit.CellAt(1, 1).dataType, "TABLE_UI_OBJECT");
+    edit.Done();
+    EXPECT_EQ(table.Cells()[0].dataType, "TABLE_UI_OBJECT");
+    EXPECT_EQ(table.CellObjectCount(), 0);
+    edit.RemoveObject();
+    EXPECT_EQ(edit.CellAt(1, 1).dataType, "TABLE_TEXT");
+}
+
+TEST_F(TableEditingTest, ADragKeepsARowAtTwoPixelsAtLeast) {
+    TableEditing edit(owner.host, table);
+    EXPECT_TRUE(edit.ResizeRowBy(1, -32));
+    EXPECT_EQ(edit.RowHeights()[0], 2);
+    EXPECT_FALSE(edit.ResizeRowBy(1, -1));
+    EXPECT_EQ(edit.RowHeights()[0], 2);
+    // No upper limit of its own; half a pixel rounds to even.
+    EXPECT_TRUE(edit.ResizeColumnBy(1, 300.5));
+    EXPECT_EQ(edit.ColumnWidths()[0], 348);
+    EXPECT_FALSE(edit.ResizeRowBy(2, 5));
+}
+
 }  // namespace
 }  // namespace tolva::testing
