@@ -10,6 +10,10 @@
 #include "objects/menu/editors/frmMenu.h"
 #include "objects/popuptrigger/PopupTriggerEditing.h"
 #include "objects/popuptrigger/editors/frmPopupTrigger.h"
+#include "objects/table/TableEditing.h"
+#include "objects/table/TableObjectEditing.h"
+#include "objects/table/editors/frmTable.h"
+#include "objects/table/editors/frmTableObjects.h"
 #include "platform/DialogRegistry.h"
 
 namespace tolva {
@@ -20,6 +24,8 @@ void RegisterObjectDialogs() {
     RegisterDialog(ListEditing::kDialogName, &frmList::Run);
     RegisterDialog(MenuEditing::kDialogName, &frmMenu::Run);
     RegisterDialog(PopupTriggerEditing::kDialogName, &frmPopupTrigger::Run);
+    RegisterDialog(TableEditing::kDialogName, &frmTable::Run);
+    RegisterDialog(TableObjectEditing::kDialogName, &frmTableObjects::Run);
 }
 
 }  // namespace tolva

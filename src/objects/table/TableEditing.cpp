@@ -5,7 +5,9 @@
 #include "document/Host.h"
 #include "document/Numbers.h"
 #include "document/RuntimeFailure.h"
+#include "objects/table/TableObjectEditing.h"
 #include "objects/table/ctlKOMATable.h"
+#include "document/ObjectOwner.h"
 
 namespace tolva {
 
@@ -14,6 +16,10 @@ TableEditing::TableEditing(Host& host, ctlKOMATable& table) : host_(host), table
     columns_ = properties.columns;
     rowHeights_ = properties.rowHeights;
     columnWidths_ = properties.columnWidths;
+    // Counts ahead of the sizes and cells (a Table Editor cancelled after an
+    // insert) are made whole with new rows, columns and cells.
+    rowHeights_.resize(static_cast<std::size_t>(std::max(properties.rows, 0)), kNewRowHeight);
+    columnWidths_.resize(static_cast<std::size_t>(std::max(columns_, 0)), kNewColumnWidth);
     // Cell (r, c) of the table's sequence stands at (r - 1) x columns + c.
     cells_.assign(static_cast<std::size_t>(std::max(properties.rows, 0)),
                   std::vector<TableCell>(static_cast<std::size_t>(std::max(columns_, 0))));
@@ -174,6 +180,17 @@ void TableEditing::Apply(Fields& boxes) {
 }
 
 void TableEditing::PrepareObjectEditing() { CellAt(selectedRow_, selectedColumn_).dataType = "TABLE_UI_OBJECT"; }
+
+void TableEditing::EditCellObject() {
+    KomaObject* object = nullptr;
+    bool ok = false;
+    table_.GetObject(selectedRow_, selectedColumn_, object, ok);
+    if (!ok || !table_.Owner()) return;
+    TableObjectEditing objects(host_, table_.Owner()->OwnerLog(), table_, table_.PCTwipsToTolvaPixels());
+    objects.SetObject(selectedRow_, selectedColumn_, rowHeights_.at(static_cast<std::size_t>(selectedRow_ - 1)),
+                      columnWidths_.at(static_cast<std::size_t>(selectedColumn_ - 1)), object);
+    if (host_.RunDialog(objects)) objects.Ok();
+}
 
 void TableEditing::RemoveObject() {
     KomaObject* none = nullptr;

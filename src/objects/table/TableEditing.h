@@ -86,6 +86,9 @@ public:
     // The cell's object editing is about to open: the data type becomes
     // "TABLE_UI_OBJECT" in the copy, whatever the object editor then does.
     void PrepareObjectEditing();
+    // The Table Object Editor on the selected cell: its object, the cell's
+    // size; OK there hands the object to the table.
+    void EditCellObject();
     // The cell's object goes from the table; the data type becomes
     // "TABLE_TEXT".
     void RemoveObject();
