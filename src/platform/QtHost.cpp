@@ -20,6 +20,8 @@
 namespace tolva {
 
 QWidget* QtHost::DialogParent() const {
+    // A box or dialog opened from a dialog belongs to that dialog.
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     if (parent_) return parent_.data();
     return QApplication::activeWindow();
 }
