@@ -12,9 +12,10 @@
 //
 // A tenth of the objects are forms; each form holds nine objects of the
 // other kinds (menus among them) in turn, listed in its record, so the load
-// embeds them all and the save writes every form's list of IDs. The small size is loaded and
-// saved ten times (into ten screens that stay alive), the large one once, so
-// that both fill the same memory; the two are timed in turn, five times
+// embeds them all and the save writes every form's list of IDs; each table
+// holds a button in a cell. The small size is loaded and saved ten times
+// (into ten screens that stay alive), the large one once, so that both fill
+// the same memory; the two are timed in turn, five times
 // each, and each one's median counts. IDs stay below 32,768, as the file wants.
 //
 // Why the check stops at 10,000: from about 20,000 objects a load's passing
@@ -37,6 +38,7 @@
 #include <fstream>
 #include <iterator>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -44,6 +46,7 @@
 #include "document/Host.h"
 #include "document/LogSink.h"
 #include "document/RuntimeFailure.h"
+#include "objects/table/ctlKOMATable.h"
 #include "screen/ctlTolvaScreen.h"
 #include "screen/ScreenFiles.h"
 
@@ -302,6 +305,37 @@ void WriteMenu(std::ostream& out, const std::string& name, int id, int) {
     out << "~F5\r\n(BO)MENU_VISIBLE=TRUE\r\n#END_MENU\r\n";
 }
 
+// A table of two rows and two columns whose first cell holds a button (ID
+// cellId), written behind it as the save writes cell objects.
+void WriteTable(std::ostream& out, const std::string& name, int id, int slot, int cellId) {
+    out << "#TABLE\r\nNAME=" << name << "\r\nID=" << id << "\r\n~F0\r\n(B)OBJECT.TYPE=TABLE\r\n~F1\r\n"
+        << "(SH)BOUNDS.X=4\r\n(SH)BOUNDS.Y=" << 16 + slot * 15 << "\r\n(SH)BOUNDS.WIDTH=0\r\n"
+        << "(SH)BOUNDS.HEIGHT=0\r\n~F2\r\n(U)TABLE_NUM_COLUMN=2\r\n~F3\r\n(U)TABLE_NUM_ROW=2\r\n~F4\r\n"
+        << "(SH)TABLE_COLUMN_WIDTH=48\r\n(SH)TABLE_COLUMN_WIDTH=40\r\n~F5\r\n(SH)TABLE_ROW_HEIGHT=14\r\n"
+        << "(SH)TABLE_ROW_HEIGHT=14\r\n~F6\r\n(U)TABLE_TOP_ROW_NUM=0\r\n~F7\r\n(U)TABLE_LEFT_COL_NUM=0\r\n"
+        << "~F8\r\n(B)TABLE_STYLE=TABLE_STYLE_0\r\n~F9\r\n(B)TABLE_BACKGROUND_COLOR=COLOR_WHITE\r\n~F10\r\n"
+        << "~F11\r\n";
+    for (int cell = 0; cell < 4; ++cell) {
+        out << "(B)TABLE_DATA_TYPE=" << (cell == 0 ? "TABLE_UI_OBJECT" : "TABLE_TEXT")
+            << "\r\n(U)TABLE_UI_OBJECT_ID=" << (cell == 0 ? std::to_string(cellId) : std::string())
+            << "\r\n(B)TABLE_FONT=SMALL_FONT\r\n(W)TABLE_VALUE=" << cell << "\r\n(B)TABLE_TEXTMENT=LEFT\r\n"
+            << "(B)TABLE_FONT_COLOR=COLOR_BLACK\r\n(B)TABLE_BACKGROUND_COLOR=COLOR_WHITE\r\n"
+            << "(BO)TABLE_CELL_HIGHLIGHT=FALSE\r\n(BO)TABLECELL_HAS_BITMAP=FALSE\r\n(S)TABLE_TEXT=Cell "
+            << cell << "\r\n";
+    }
+    out << "~F12\r\n(BO)TABLE_ATTR.TABLE_ENABLE=TRUE\r\n(BO)TABLE_ATTR.TABLE_SCROLLBAR=TRUE\r\n"
+        << "(BO)TABLE_ATTR.TABLE_ACTIVE=TRUE\r\n(BO)TABLE_ATTR.TABLE_HIGHLIGHT_ENABLE=TRUE\r\n"
+        << "(BO)TABLE_ATTR.TABLE_VISIBLE=TRUE\r\n#END_TABLE\r\n";
+    std::ostringstream button;
+    const std::string cellName = "BUTTON_" + name + "_CELL_1_1";
+    WriteBanner(out, cellName);
+    WriteButton(button, cellName, cellId, 0);
+    std::string text = button.str();
+    const std::string outside = "(U)RELATED_TABLE_ID=65535";
+    text.replace(text.find(outside), outside.size(), "(U)RELATED_TABLE_ID=" + std::to_string(id));
+    out << text;
+}
+
 // The kinds a form holds, in turn: the name prefix, the word of the form's
 // list and the record writer.
 struct ObjectKind {
@@ -324,6 +358,8 @@ const ObjectKind kObjectKinds[] = {
     {"LIST_", "LIST", WriteList},
     {"POPUPTRIGGER_", "CONTROL", WritePopupTrigger},
     {"MENU_", "MENU", WriteMenu},
+    // A table's record is written by WriteTable, with its cell's object.
+    {"TABLE_", "TABLE", nullptr},
 };
 constexpr int kObjectsPerForm = 9;
 
@@ -333,6 +369,8 @@ void WriteDesign(const std::string& path, int objects) {
     const int forms = objects / (kObjectsPerForm + 1);
     const int kinds = static_cast<int>(std::size(kObjectKinds));
     int nextId = forms;
+    // The objects in table cells take the IDs after all others.
+    int cellId = objects;
     for (int f = 0; f < forms; ++f) {
         const std::string name = "FORM_" + std::to_string(f + 1);
         WriteBanner(out, name);
@@ -354,7 +392,10 @@ void WriteDesign(const std::string& path, int objects) {
             const ObjectKind& kind = kObjectKinds[id % kinds];
             const std::string objectName = kind.prefix + std::to_string(id);
             WriteBanner(out, objectName);
-            kind.write(out, objectName, id, k);
+            if (kind.write)
+                kind.write(out, objectName, id, k);
+            else
+                WriteTable(out, objectName, id, k, cellId++);
         }
         nextId += kObjectsPerForm;
     }
@@ -396,8 +437,14 @@ Figures RunDesigns(int objects, int designs, const std::string& directory) {
             const int forms = objects / (kObjectsPerForm + 1);
             // Menus are data of their forms, not objects of the index.
             const int made = static_cast<int>(screen.IndexedObjectCount()) + screen.NumMenus();
+            // Every table holds its cell's button.
+            int cellObjects = 0;
+            for (int t = 1; t <= screen.Count(tolva::type::Table); ++t)
+                cellObjects += static_cast<tolva::ctlKOMATable*>(screen.ObjectAt(tolva::type::Table, t))
+                                   ->CellObjectCount();
             figures.ok = loaded && screen.NumForms() == forms &&
-                         made == forms * (kObjectsPerForm + 1) && host.messages == 0;
+                         made == forms * (kObjectsPerForm + 1) && host.messages == 0 &&
+                         cellObjects == screen.Count(tolva::type::Table) && cellObjects > 0;
             if (!figures.ok)
                 std::fprintf(stderr, "%d objects made, %d messages, the first: %s\n", made,
                              host.messages, host.firstMessage.c_str());
