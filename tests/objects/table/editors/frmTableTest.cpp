@@ -378,5 +378,50 @@ TEST_F(frmTableTest, DraggingARowLineStopsAtTwoPixelsAndTheTopLineIsFixed) {
     EXPECT_EQ(table->RowHeights()[0], 2);
 }
 
+TEST_F(frmTableTest, TheCountBoxesCanBeTypedInToNoEffect) {
+    EditWith([&](QDialog& dialog) {
+        Type(dialog, "txtNumRows", "9");
+        Type(dialog, "txtNumCols", "7");
+        Click(dialog, "cmdApply");
+        Click(dialog, "cmdOK");
+    });
+    EXPECT_EQ(table->KOMANumRows(), 1);
+    EXPECT_EQ(table->KOMANumColumns(), 1);
+    EXPECT_EQ(table->Cells().size(), 1u);
+}
+
+TEST_F(frmTableTest, ACancelledObjectEditorLeavesAnObjectCellWithoutObjectAfterDone) {
+    EditWith([&](QDialog& dialog) {
+        Next([&](QDialog& objects) { Click(objects, "cmdCancel"); });
+        Menu(dialog, "mnuInsertObject");
+        Click(dialog, "cmdOK");
+    });
+    EXPECT_EQ(table->Cells()[0].dataType, "TABLE_UI_OBJECT");
+    EXPECT_EQ(table->CellObjectCount(), 0);
+    EXPECT_NE(Saved().find("(B)TABLE_DATA_TYPE=TABLE_UI_OBJECT\r\n(U)TABLE_UI_OBJECT_ID=\r\n"), std::string::npos);
+}
+
+TEST_F(frmTableTest, AColumnDraggedPast210IsStoppedByTheFrameOnly) {
+    EditWith([&](QDialog& dialog) {
+        dialog.resize(1800, 900);
+        QApplication::processEvents();
+        auto* grid = dialog.findChild<TableGridView*>();
+        const TablePreview preview = grid->Preview();
+        const double unit = TableGridView::kUnitsPerPixel;
+        // The first column's left line does not move.
+        const QPoint left(int(preview.ColumnLeft(1) / unit), int((preview.RowTop(1) + 300) / unit));
+        QTest::mousePress(grid, Qt::LeftButton, {}, left);
+        QTest::mouseMove(grid, left + QPoint(60, 0));
+        QTest::mouseRelease(grid, Qt::LeftButton, {}, left + QPoint(60, 0));
+        EXPECT_EQ(Text(dialog, "lblTableSize"), "Table Size: 34 x 48");
+        const QPoint line(int(preview.ColumnLeft(2) / unit), int((preview.RowTop(1) + 300) / unit));
+        QTest::mousePress(grid, Qt::LeftButton, {}, line);
+        for (int step = 10; step <= 600; step += 10) QTest::mouseMove(grid, line + QPoint(step, 0));
+        QTest::mouseRelease(grid, Qt::LeftButton, {}, line + QPoint(600, 0));
+        Click(dialog, "cmdOK");
+    });
+    EXPECT_GT(table->ColumnWidths()[0], 210);
+}
+
 }  // namespace
 }  // namespace tolva::testing
