@@ -422,5 +422,38 @@ TEST_F(TableTest, OnTheScreenATableIsABoxSayingTable) {
     EXPECT_DOUBLE_EQ(elements[1].rect.height, 495);
 }
 
+TEST_F(TableTest, ACellObjectAskingForASizeIsCutAtTheDevicesEdge) {
+    ctlKOMAButton button;
+    button.KOMABoundsX(150);
+    button.KOMABoundsY(100);
+    KomaObject* placed = Put(1, 1, button);
+    PropertyArray rows;
+    placed->GetPropertyList(rows);
+    rows.At(3, 4) = PropertyCell(std::string("40"));
+    rows.At(3, 5) = PropertyCell(std::string("90"));
+    ASSERT_TRUE(placed->SetPropertyList(rows));
+    EXPECT_EQ(placed->KOMAWidth(), 10);
+    EXPECT_EQ(placed->KOMAHeight(), 60);
+    EXPECT_DOUBLE_EQ(placed->Width(), 10 * 36.59);
+}
+
+TEST_F(TableTest, ARecordThatCannotBeAppliedSaysSo) {
+    GroupList groups(21);
+    groups[0] = {"TABLE_9", "1"};
+    groups[1] = {"x", "0", "0", "0"};
+    for (std::size_t i : {2u, 3u, 6u, 7u, 8u, 9u}) groups[i] = {"1"};
+    groups[10] = {"0", "0", "0", "0", ""};
+    groups[20] = {"TRUE", "TRUE", "TRUE", "TRUE", "TRUE"};
+    bool ok = true;
+    table.SetFromResText(groups, ok);
+    EXPECT_FALSE(ok);
+    EXPECT_EQ(owner.host.MessageLines(), (Lines{"Error: Table - SetFromResText"}));
+    // The wrong number of groups changes nothing and says nothing.
+    owner.host.ClearRecord();
+    table.SetFromResText(GroupList(20), ok);
+    EXPECT_FALSE(ok);
+    EXPECT_TRUE(owner.host.messages.empty());
+}
+
 }  // namespace
 }  // namespace tolva::testing
