@@ -62,5 +62,14 @@ TEST_F(TableResave, AWordWhereAValueBelongsEndsTheLoad) {
     EXPECT_EQ(err, "load ended: Type mismatch: \"twelve\" is no number\n");
 }
 
+// A form's ID among the cells' objects ends the load with its message.
+TEST_F(TableResave, AFormInACellIsRefused) {
+    WriteFile(dir / "in.txt", FullWith("(U)TABLE_UI_OBJECT_ID=3\r\n", "(U)TABLE_UI_OBJECT_ID=0\r\n"));
+    EXPECT_EQ(Run("check in.txt"), 1);
+    EXPECT_EQ(err,
+              "Tolva Resource Editor: Form embedded in table.  This is not allowed\n"
+              "Tolva Resource Editor: Could not load resource file\n");
+}
+
 }  // namespace
 }  // namespace tolva::testing
