@@ -29,6 +29,7 @@
 #include "shell/RunGuarded.h"
 #include "shell/WindowUnits.h"
 #include "shell/SettingsKeys.h"
+#include "shell/frmOptions.h"
 #include "shell/SortedComboBox.h"
 #include "shell/ToolTable.h"
 #include "shell/ToolbarIcons.h"
@@ -242,6 +243,7 @@ void frmMain::Load(bool show) {
         log_ = new frmLog(this);
         logSink_.SetWindow(log_);
     }
+    if (!busy_) busy_ = new frmBusy(this);
 
     if (show) this->show();
 }
@@ -554,7 +556,9 @@ void frmMain::mnuEditDelete_Click() {
 }
 
 void frmMain::mnuEditOptions_Click() {
-    // The options window is not in the program yet.
+    // Not modal: the main window stays live while it is open.
+    auto* options = new frmOptions(*this);
+    options->show();
 }
 
 void frmMain::mnuViewObjectList_Click() {
@@ -568,7 +572,8 @@ void frmMain::mnuViewLog_Click() {
 void frmMain::mnuHelpBugs_Click() { host_.OpenMail(kMaintainersAddress, host_.ProgramDirectory()); }
 
 void frmMain::mnuHelpAbout_Click() {
-    // The about box is not in the program yet.
+    auto* about = new frmAbout(this);
+    about->show();
 }
 
 // --- window events --------------------------------------------------------------------

@@ -22,6 +22,7 @@ class QToolButton;
 namespace tolva {
 
 class CanvasWidget;
+class frmBusy;
 class PropertyArray;
 class ctlPropertyView;
 class Host;
@@ -52,6 +53,8 @@ public:
     bool GridVisible() const { return gridVisible_; }
 
     ctlTolvaScreen& Screen() { return *screen_; }
+    // The grid as the options window sets it, shown at once.
+    void SetGridFromOptions(int interval, bool visible) { SetGrid(interval, visible); }
     CanvasWidget* ScreenWidget() const { return ctlScreen_; }
     ctlPropertyView* PropertyView() const { return ctlPropView_; }
     frmLog* LogWindow() const { return log_; }
@@ -147,6 +150,8 @@ private:
     frmLogSink logSink_;
     std::unique_ptr<ctlTolvaScreen> screen_;
     frmLog* log_ = nullptr;
+    // Made at start and never shown.
+    frmBusy* busy_ = nullptr;
 
     bool showBitmapWarning_ = true;
     bool formsComboEnabled_ = false;
