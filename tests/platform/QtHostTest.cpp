@@ -12,7 +12,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <filesystem>
+#include <fstream>
 #include <functional>
+#include <iterator>
 
 #include "platform/Cp1252.h"
 #include "platform/QtHost.h"
@@ -341,3 +344,52 @@ TEST(QtHost, ADialogRunsByItsNameAndAnUnknownOneIsCancelled) {
 
 }  // namespace
 }  // namespace tolva
+
+namespace tolva::testing {
+namespace {
+
+// The settings live in the user's configuration folder; the test points it
+// at a fresh folder of its own.
+class QtHostSettingsFile : public ::testing::Test {
+protected:
+    void SetUp() override {
+        folder = std::filesystem::path(::testing::TempDir()) / "tolva_settings";
+        std::filesystem::remove_all(folder);
+        std::filesystem::create_directories(folder / "Tolva");
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                           QString::fromStdString(folder.string()));
+    }
+    void TearDown() override { std::filesystem::remove_all(folder); }
+    std::filesystem::path File() const { return folder / "Tolva" / "TolvaDesigner.conf"; }
+    std::filesystem::path folder;
+    QtHost host;
+};
+
+TEST_F(QtHostSettingsFile, ValuesGoToTheUsersConfigurationFolderAndComeBack) {
+    host.SaveSetting("TolvaDesigner", "Settings", "GridInterval", "40");
+    EXPECT_EQ(host.GetSetting("TolvaDesigner", "Settings", "GridInterval", "55"), "40");
+    EXPECT_TRUE(std::filesystem::exists(File()));
+    std::ifstream in(File());
+    const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    EXPECT_NE(text.find("[Settings]"), std::string::npos);
+    EXPECT_NE(text.find("GridInterval=40"), std::string::npos);
+    EXPECT_EQ(host.GetSetting("TolvaDesigner", "Settings", "ShowGrid", "1"), "1");
+}
+
+TEST_F(QtHostSettingsFile, AFileOfNonsenseGivesTheDefaultsAndIsWrittenAnew) {
+    std::ofstream(File(), std::ios::binary) << "\x01\x02[[[Settings\nGridInterval==\xff\xfe\n\x00garbage";
+    EXPECT_EQ(host.GetSetting("TolvaDesigner", "Settings", "GridInterval", "55"), "55");
+    host.SaveSetting("TolvaDesigner", "Settings", "GridInterval", "40");
+    host.SaveSetting("TolvaDesigner", "Settings", "ShowGrid", "0");
+    EXPECT_EQ(host.GetSetting("TolvaDesigner", "Settings", "GridInterval", "55"), "40");
+    EXPECT_EQ(host.GetSetting("TolvaDesigner", "Settings", "ShowGrid", "1"), "0");
+}
+
+TEST_F(QtHostSettingsFile, AFileThatCannotBeReadGivesTheDefaults) {
+    std::filesystem::create_directories(File());  // a folder where the file should be
+    EXPECT_EQ(host.GetSetting("TolvaDesigner", "Settings", "ShowBitmapWarning", "1"), "1");
+    host.SaveSetting("TolvaDesigner", "Settings", "ShowBitmapWarning", "0");
+}
+
+}  // namespace
+}  // namespace tolva::testing
