@@ -3,6 +3,7 @@
 // asks, the bitmap warning following its box, Cancel keeping all.
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QImage>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -132,6 +133,34 @@ TEST_F(Options, TheAboutBoxAndTheBusyWindow) {
     ASSERT_NE(busy, nullptr);
     EXPECT_FALSE(busy->isVisible());
     EXPECT_EQ(busy->findChild<QLabel*>("lblState")->text(), "Please wait...");
+}
+
+TEST_F(Options, AGridChangedInOptionsShowsAtOnceAndIsKeptForTheNextStart) {
+    const QImage before = window->findChild<QWidget*>("ctlScreen")->grab().toImage();
+    frmOptions* options = Open();
+    Choose(options, "30");
+    Click(options, "cmdOK");
+    const QImage after = window->findChild<QWidget*>("ctlScreen")->grab().toImage();
+    EXPECT_NE(before, after);
+    EXPECT_TRUE(window->close());
+    EXPECT_EQ(host.settings["Settings/GridInterval"], "30");
+    MainWindowTest::Open();
+    EXPECT_EQ(Screen().GridInterval(), 30);
+    EXPECT_EQ(Open()->OldGridInterval(), 30);
+}
+
+TEST_F(Options, SettingsOfNonsenseStartTheEditorWithTheDefaults) {
+    host.settings["Settings/GridInterval"] = "\x01lots";
+    host.settings["Settings/ShowGrid"] = "maybe";
+    host.settings["Settings/ShowBitmapWarning"] = "";
+    MainWindowTest::Open();
+    EXPECT_EQ(Screen().GridInterval(), 55);
+    EXPECT_FALSE(Screen().GridVisible());
+    EXPECT_TRUE(window->ShowBitmapWarning());
+    EXPECT_TRUE(window->close());
+    EXPECT_EQ(host.settings["Settings/GridInterval"], "55");
+    EXPECT_EQ(host.settings["Settings/ShowGrid"], "0");
+    EXPECT_EQ(host.settings["Settings/ShowBitmapWarning"], "1");
 }
 
 }  // namespace
