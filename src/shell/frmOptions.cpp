@@ -7,6 +7,7 @@
 
 #include "canvas/GridOptions.h"
 #include "screen/ctlTolvaScreen.h"
+#include "shell/FitText.h"
 #include "shell/SortedComboBox.h"
 #include "shell/WindowUnits.h"
 #include "shell/frmMain.h"
@@ -18,6 +19,7 @@ frmOptions::frmOptions(frmMain& main) : QDialog(&main), main_(main) {
     setWindowTitle("Options");
     setAttribute(Qt::WA_DeleteOnClose);
     setFixedSize(UnitsToPixels(4800), UnitsToPixels(2880));
+    setFont(WindowFont());
 
     Label1_ = new QLabel("Grid Interval", this);
     Label1_->setObjectName("Label1");
@@ -38,6 +40,13 @@ frmOptions::frmOptions(frmMain& main) : QDialog(&main), main_(main) {
     cmdCancel_ = new QPushButton("Cancel", this);
     cmdCancel_->setObjectName("cmdCancel");
     cmdCancel_->setGeometry(UnitsRect(3480, 2040, 1095, 375));
+
+    // The places are those of a narrow desktop font: a wider one is made
+    // smaller until each text fits its place.
+    FitTextToWidth(Label1_, Label1_->text());
+    constexpr int kCheckMark = 22;
+    FitTextToWidth(chkShowGrid_, chkShowGrid_->text(), kCheckMark);
+    FitTextToWidth(chkShowBitmapWarning_, chkShowBitmapWarning_->text(), kCheckMark);
 
     // The state found on opening.
     const ctlTolvaScreen& screen = main.Screen();
@@ -70,6 +79,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     setWindowTitle("About Tolva Resource File Editor");
     setAttribute(Qt::WA_DeleteOnClose);
     setFixedSize(UnitsToPixels(4800), UnitsToPixels(2400));
+    setFont(WindowFont());
     auto* lblInfo = new QLabel("Tolva Resource File Editor", this);
     lblInfo->setObjectName("lblInfo");
     lblInfo->setGeometry(UnitsRect(240, 240, 4200, 300));
