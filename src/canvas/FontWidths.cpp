@@ -3,6 +3,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "document/DataDirectory.h"
 #include "document/Host.h"
 #include "document/Numbers.h"
 #include "document/RuntimeFailure.h"
@@ -50,7 +51,7 @@ FontWidthTable& FontMediumWidth() {
 }
 
 bool LoadFontWidths(Host& host) {
-    const std::string dir = host.ProgramDirectory() + "/";
+    const std::string dir = DataDirectory(host) + "/";
     const std::string small = dir + kSmallFile;
     const std::string medium = dir + kMediumFile;
     if (!host.FileExists(small) || !host.FileExists(medium)) {

@@ -1,5 +1,6 @@
 #include "cli/ResCommand.h"
 
+#include "document/DataDirectory.h"
 #include "canvas/FontWidths.h"
 #include "cli/StderrHost.h"
 #include "document/LogSink.h"
@@ -46,7 +47,7 @@ public:
 // the two width tables.
 bool StartUp(Host& host) {
     StringTable& table = StringTable::Shared();
-    table.LoadFromFile(host.ProgramDirectory() + "/Strings.txt");
+    table.LoadFromFile(DataDirectory(host) + "/Strings.txt");
     table.SetLanguage(host.LanguageId());
     ColorWordList();
     return LoadFontWidths(host);

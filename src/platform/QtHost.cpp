@@ -1,5 +1,7 @@
 #include "platform/QtHost.h"
 
+#include <cstdio>
+
 #include <QApplication>
 #include <QCoreApplication>
 #include <QCursor>
@@ -29,6 +31,10 @@ QWidget* QtHost::DialogParent() const {
 MessageAnswer QtHost::MessageBox(const std::string& text, const std::string& title,
                                  MessageButtons buttons) {
     const QString shownTitle = FromCp1252(title.empty() ? std::string(kApplicationTitle) : title);
+    if (startCheck_) {
+        std::fprintf(stderr, "%s: %s\n", shownTitle.toLocal8Bit().constData(), FromCp1252(text).toLocal8Bit().constData());
+        return buttons == MessageButtons::OK ? MessageAnswer::OK : MessageAnswer::Yes;
+    }
     QMessageBox box(DialogParent());
     box.setWindowTitle(shownTitle);
     box.setText(FromCp1252(text));

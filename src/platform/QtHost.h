@@ -14,6 +14,10 @@ class QtHost : public Host {
 public:
     QtHost() = default;
 
+    // A start check (an installer's test that the program starts): every
+    // message box is written to standard error and answered at once.
+    void SetStartCheck(bool on) { startCheck_ = on; }
+
     // The window that owns the dialogs; without one, the active window.
     void SetParentWidget(QWidget* parent) { parent_ = parent; }
     // Where the cursors go: the hourglass onto the window, the cross and
@@ -57,6 +61,7 @@ private:
     QPointer<QWidget> parent_;
     QPointer<QWidget> cursorWindow_;
     QPointer<QWidget> cursorCanvas_;
+    bool startCheck_ = false;
 };
 
 }  // namespace tolva

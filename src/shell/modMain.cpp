@@ -1,5 +1,9 @@
 #include "shell/modMain.h"
 
+#include <QTimer>
+#include <cstdio>
+
+#include "document/DataDirectory.h"
 #include "canvas/DeviceFont.h"
 #include "canvas/FontWidths.h"
 #include "document/Host.h"
@@ -35,7 +39,7 @@ namespace tolva {
 
 void LoadStringTable(Host& host) {
     StringTable& table = StringTable::Shared();
-    table.LoadFromFile(host.ProgramDirectory() + "/Strings.txt");
+    table.LoadFromFile(DataDirectory(host) + "/Strings.txt");
     table.SetLanguage(host.LanguageId());
 }
 
@@ -49,7 +53,7 @@ bool LoadFontWidthTables(Host& host) {
     if (!LoadFontWidths(host)) return false;
     // The glyphs the canvas draws device text with; they stand beside the
     // width files and were made from the same pixels.
-    LoadDeviceFonts(host.ProgramDirectory());
+    LoadDeviceFonts(DataDirectory(host));
     return true;
 }
 
@@ -103,11 +107,19 @@ std::unique_ptr<frmMain> StartUp(Host& host, bool show) {
 int SubMain(int argc, char** argv) {
     GuardedApplication app(argc, argv);
     QtHost host;
+    // TOLVA_START_CHECK=1: start, say so and end, with no box waiting for
+    // an answer (the installed program's test).
+    const bool startCheck = qEnvironmentVariableIsSet("TOLVA_START_CHECK");
+    host.SetStartCheck(startCheck);
     RegisterObjectDialogs();
     SetGuardHost(&host);
     std::unique_ptr<frmMain> window;
     RunGuarded([&] { window = StartUp(host); });
     if (!window) return kRunTimeErrorStatus;
+    if (startCheck) {
+        std::printf("started\n");
+        QTimer::singleShot(0, &app, &QCoreApplication::quit);
+    }
     host.SetParentWidget(window.get());
     host.SetCursorWidgets(window.get(), window->ScreenWidget());
     const int status = app.exec();

@@ -353,7 +353,10 @@ namespace {
 class QtHostSettingsFile : public ::testing::Test {
 protected:
     void SetUp() override {
-        folder = std::filesystem::path(::testing::TempDir()) / "tolva_settings";
+        // Tests run side by side: each has a folder of its own.
+        folder = std::filesystem::path(::testing::TempDir()) /
+                 ("tolva_settings_" + std::string(::testing::UnitTest::GetInstance()->current_test_info()->name()) +
+                  "_" + std::to_string(QCoreApplication::applicationPid()));
         std::filesystem::remove_all(folder);
         std::filesystem::create_directories(folder / "Tolva");
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
