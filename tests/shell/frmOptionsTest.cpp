@@ -5,10 +5,14 @@
 #include <QCoreApplication>
 #include <QImage>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 
+#include "document/ObjectTypes.h"
+#include "platform/ModalDriver.h"
 #include "shell/MainWindowFixture.h"
+#include "shell/frmLog.h"
 #include "shell/SortedComboBox.h"
 #include "shell/WindowUnits.h"
 #include "shell/frmOptions.h"
@@ -161,6 +165,29 @@ TEST_F(Options, SettingsOfNonsenseStartTheEditorWithTheDefaults) {
     EXPECT_EQ(host.settings["Settings/GridInterval"], "55");
     EXPECT_EQ(host.settings["Settings/ShowGrid"], "0");
     EXPECT_EQ(host.settings["Settings/ShowBitmapWarning"], "1");
+}
+
+TEST_F(Options, TheLogWindowOpensModallyFromItsMenuAndStaysAsItWas) {
+    // Actions that log lines: the window shows its first text all the same.
+    ClickTool(2);
+    Screen().SelectObject(type::None, "");
+    QString shown;
+    bool modal = false;
+    OnNextModal([&](QWidget* dialog) {
+        shown = dialog->findChild<QPlainTextEdit*>("txtLog")->toPlainText();
+        modal = dialog->isModal();
+        dialog->close();
+    });
+    TriggerMenu("mnuViewLog");
+    EXPECT_TRUE(modal);
+    EXPECT_EQ(shown, "Log\n");
+    // Closed, it is only hidden: the same window opens again.
+    frmLog* log = window->LogWindow();
+    ASSERT_NE(log, nullptr);
+    EXPECT_FALSE(log->isVisible());
+    OnNextModal([](QWidget* dialog) { dialog->close(); });
+    TriggerMenu("mnuViewLog");
+    EXPECT_EQ(window->LogWindow(), log);
 }
 
 }  // namespace
