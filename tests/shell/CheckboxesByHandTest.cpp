@@ -9,6 +9,7 @@
 #include "document/ObjectTypes.h"
 #include "objects/checkbox/ctlKOMACheckbox.h"
 #include "objects/form/ctlKOMAForm.h"
+#include "platform/DialogDriver.h"
 #include "platform/DialogRegistry.h"
 #include "platform/ModalDriver.h"
 #include "shell/ByHandFixture.h"
@@ -52,10 +53,7 @@ protected:
     // The Checkbox Editor as the desktop shows it, worked by `drive` once it
     // is up.
     void NextDialogIsTheEditor(std::function<void(QWidget*)> drive) {
-        host.dialogAnswers.push_back([](DialogModel& model) {
-            const DialogRunner* run = FindDialog(model.DialogName());
-            return run && (*run)(model, nullptr);
-        });
+        AnswerWithRegisteredDialog(host);
         OnNextModal(std::move(drive));
     }
 

@@ -7,6 +7,7 @@
 
 #include "document/ObjectTypes.h"
 #include "objects/field/ctlKOMAField.h"
+#include "platform/DialogDriver.h"
 #include "platform/DialogRegistry.h"
 #include "platform/ModalDriver.h"
 #include "shell/ByHandFixture.h"
@@ -48,10 +49,7 @@ TEST_F(ByHand, AFieldDrawnTypedEditedSavedOpenedAndSavedAgain) {
     EXPECT_EQ(fullSize->currentText(), "FALSE");
 
     // The text, typed in the editor with a line break.
-    host.dialogAnswers.push_back([](DialogModel& model) {
-        const DialogRunner* run = FindDialog(model.DialogName());
-        return run && (*run)(model, nullptr);
-    });
+    AnswerWithRegisteredDialog(host);
     OnNextModal([](QWidget* dialog) {
         auto* text = dialog->findChild<QPlainTextEdit*>("txtText");
         ASSERT_NE(text, nullptr);

@@ -11,6 +11,7 @@
 #include "objects/form/ctlKOMAForm.h"
 #include "objects/list/ListEditing.h"
 #include "objects/list/ctlKOMAList.h"
+#include "platform/DialogDriver.h"
 #include "platform/DialogRegistry.h"
 #include "platform/ModalDriver.h"
 #include "shell/ByHandFixture.h"
@@ -24,10 +25,7 @@ constexpr int kPopupTriggerTool = 9;
 
 // The next dialog is the registered one, driven by `drive` once it is up.
 void NextDialogDrivenBy(ScriptedHost& host, std::function<void(QWidget*)> drive) {
-    host.dialogAnswers.push_back([](DialogModel& model) {
-        const DialogRunner* run = FindDialog(model.DialogName());
-        return run && (*run)(model, nullptr);
-    });
+    AnswerWithRegisteredDialog(host);
     OnNextModal(std::move(drive));
 }
 

@@ -6,6 +6,7 @@
 
 #include "document/ObjectTypes.h"
 #include "objects/form/ctlKOMAForm.h"
+#include "platform/DialogDriver.h"
 #include "platform/DialogRegistry.h"
 #include "platform/ModalDriver.h"
 #include "shell/ByHandFixture.h"
@@ -23,10 +24,7 @@ struct MenuByHand {
 // The next Menu Editor makes the menus; a name in `refused` is tried first.
 void NextMenuEditorMakes(ScriptedHost& host, std::vector<MenuByHand> menus, QString refused,
                          QString* caption) {
-    host.dialogAnswers.push_back([](DialogModel& model) {
-        const DialogRunner* run = FindDialog(model.DialogName());
-        return run && (*run)(model, nullptr);
-    });
+    AnswerWithRegisteredDialog(host);
     OnNextModal([menus, refused, caption](QWidget* dialog) {
         *caption = dialog->windowTitle();
         auto* name = dialog->findChild<QLineEdit*>("txtNewName");

@@ -6,6 +6,7 @@
 
 #include "document/ObjectTypes.h"
 #include "objects/popuptrigger/ctlKOMAPopupTrigger.h"
+#include "platform/DialogDriver.h"
 #include "platform/DialogRegistry.h"
 #include "platform/ModalDriver.h"
 #include "shell/ByHandFixture.h"
@@ -33,10 +34,7 @@ TEST_F(ByHand, APopupTriggerDrawnFilledSavedOpenedAndSavedAgain) {
     host.ClearRecord();
     Enter(11, "4");
 
-    host.dialogAnswers.push_back([](DialogModel& model) {
-        const DialogRunner* run = FindDialog(model.DialogName());
-        return run && (*run)(model, nullptr);
-    });
+    AnswerWithRegisteredDialog(host);
     OnNextModal([](QWidget* dialog) {
         auto* newItem = dialog->findChild<QLineEdit*>("txtNewItem");
         for (const char* item : {"Apple", "Fig", "Pear"}) {

@@ -11,6 +11,7 @@
 #include "document/ObjectTypes.h"
 #include "objects/table/ctlKOMATable.h"
 #include "objects/table/editors/TableGridView.h"
+#include "platform/DialogDriver.h"
 #include "platform/DialogRegistry.h"
 #include "platform/ModalDriver.h"
 #include "shell/ByHandFixture.h"
@@ -22,10 +23,7 @@ namespace {
 constexpr int kTableTool = 17;
 
 void NextDialog(ScriptedHost& host, std::function<void(QWidget*)> drive) {
-    host.dialogAnswers.push_back([](DialogModel& model) {
-        const DialogRunner* run = FindDialog(model.DialogName());
-        return run && (*run)(model, nullptr);
-    });
+    AnswerWithRegisteredDialog(host);
     OnNextModal(std::move(drive));
 }
 

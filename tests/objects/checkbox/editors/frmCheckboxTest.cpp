@@ -15,6 +15,7 @@
 #include "objects/checkbox/CheckboxRelations.h"
 #include "objects/checkbox/editors/frmCheckbox.h"
 #include "objects/form/ctlKOMAForm.h"
+#include "platform/DialogDriver.h"
 #include "platform/DialogRegistry.h"
 #include "platform/ModalDriver.h"
 #include "shell/ObjectDialogs.h"
@@ -152,10 +153,7 @@ protected:
 
     // Runs the form's editor; `drive` works the dialog once it shows.
     void EditWith(const std::function<void(QDialog&)>& drive) {
-        owner.host.dialogAnswers.push_back([](DialogModel& model) {
-            const DialogRunner* run = FindDialog(model.DialogName());
-            return run && (*run)(model, nullptr);
-        });
+        AnswerWithRegisteredDialog(owner.host);
         OnNextModal([drive](QWidget* modal) {
             auto* dialog = qobject_cast<QDialog*>(modal);
             ASSERT_NE(dialog, nullptr);

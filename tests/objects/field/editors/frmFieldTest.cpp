@@ -15,6 +15,7 @@
 #include "objects/field/FieldEditorText.h"
 #include "objects/field/ctlKOMAField.h"
 #include "objects/field/editors/frmField.h"
+#include "platform/DialogDriver.h"
 #include "platform/DialogRegistry.h"
 #include "platform/ModalDriver.h"
 #include "shell/ObjectDialogs.h"
@@ -22,11 +23,6 @@
 
 namespace tolva::testing {
 namespace {
-
-template <typename T>
-T* Find(QWidget& dialog, const char* name) {
-    return dialog.findChild<T*>(QString::fromLatin1(name));
-}
 
 TEST(frmFieldTest, ItsNameTitleAndControls) {
     FieldEditorText edit;
@@ -75,10 +71,7 @@ protected:
 
     void EditWith(const std::function<void(QDialog&)>& drive) {
         owner.host.popupAnswers = {0};
-        owner.host.dialogAnswers.push_back([](DialogModel& model) {
-            const DialogRunner* run = FindDialog(model.DialogName());
-            return run && (*run)(model, nullptr);
-        });
+        AnswerWithRegisteredDialog(owner.host);
         OnNextModal([drive](QWidget* modal) {
             auto* dialog = qobject_cast<QDialog*>(modal);
             ASSERT_NE(dialog, nullptr);

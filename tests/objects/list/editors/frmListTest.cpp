@@ -17,6 +17,7 @@
 #include "objects/list/ListEditing.h"
 #include "objects/list/ctlKOMAList.h"
 #include "objects/list/editors/frmList.h"
+#include "platform/DialogDriver.h"
 #include "platform/DialogRegistry.h"
 #include "platform/ModalDriver.h"
 #include "screen/ScreenFixture.h"
@@ -26,17 +27,6 @@ namespace tolva::testing {
 namespace {
 
 using Lines = std::vector<std::string>;
-
-template <typename T>
-T* Find(QWidget& dialog, const char* name) {
-    return dialog.findChild<T*>(QString::fromLatin1(name));
-}
-
-void Click(QWidget& dialog, const char* name) {
-    auto* button = Find<QPushButton>(dialog, name);
-    ASSERT_NE(button, nullptr) << name;
-    QTest::mouseClick(button, Qt::LeftButton);
-}
 
 void AddItem(QWidget& dialog, const QString& text) {
     auto* box = Find<QLineEdit>(dialog, "txtNewItem");
@@ -69,10 +59,7 @@ protected:
     // once it shows.
     void EditWith(const std::function<void(QDialog&)>& drive) {
         host.popupAnswers = {0};
-        host.dialogAnswers.push_back([](DialogModel& model) {
-            const DialogRunner* run = FindDialog(model.DialogName());
-            return run && (*run)(model, nullptr);
-        });
+        AnswerWithRegisteredDialog(host);
         OnNextModal([drive](QWidget* modal) {
             auto* dialog = qobject_cast<QDialog*>(modal);
             ASSERT_NE(dialog, nullptr);

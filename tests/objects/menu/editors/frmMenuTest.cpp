@@ -21,6 +21,7 @@
 
 #include "objects/menu/MenuEditing.h"
 #include "objects/menu/editors/frmMenu.h"
+#include "platform/DialogDriver.h"
 #include "platform/DialogRegistry.h"
 #include "platform/ModalDriver.h"
 #include "resfile/ResourceFiles.h"
@@ -39,17 +40,6 @@ const char* const kIllegal =
     "number.  Names must start with a letter or underscore, and contain only letters, numbers "
     "and underscores";
 const char* const kTaken = "Invalid Name: This name is being used by another object.  Please choose another";
-
-template <typename T>
-T* Find(QWidget& dialog, const char* name) {
-    return dialog.findChild<T*>(QString::fromLatin1(name));
-}
-
-void Click(QWidget& dialog, const char* name) {
-    auto* button = Find<QPushButton>(dialog, name);
-    ASSERT_NE(button, nullptr) << name;
-    QTest::mouseClick(button, Qt::LeftButton);
-}
 
 void Type(QWidget& dialog, const char* box, const QString& text) {
     auto* edit = Find<QLineEdit>(dialog, box);
@@ -105,10 +95,7 @@ protected:
     // Opens the editor as the toolbar's "Menu" does; `drive` works it once
     // it shows.
     void EditWith(const std::function<void(QDialog&)>& drive) {
-        host.dialogAnswers.push_back([](DialogModel& model) {
-            const DialogRunner* run = FindDialog(model.DialogName());
-            return run && (*run)(model, nullptr);
-        });
+        AnswerWithRegisteredDialog(host);
         OnNextModal([drive](QWidget* modal) {
             auto* dialog = qobject_cast<QDialog*>(modal);
             ASSERT_NE(dialog, nullptr);

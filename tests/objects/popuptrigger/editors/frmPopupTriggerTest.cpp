@@ -16,6 +16,7 @@
 #include "objects/popuptrigger/PopupTriggerEditing.h"
 #include "objects/popuptrigger/ctlKOMAPopupTrigger.h"
 #include "objects/popuptrigger/editors/frmPopupTrigger.h"
+#include "platform/DialogDriver.h"
 #include "platform/DialogRegistry.h"
 #include "platform/ModalDriver.h"
 #include "shell/ObjectDialogs.h"
@@ -25,17 +26,6 @@ namespace tolva::testing {
 namespace {
 
 using Lines = std::vector<std::string>;
-
-template <typename T>
-T* Find(QWidget& dialog, const char* name) {
-    return dialog.findChild<T*>(QString::fromLatin1(name));
-}
-
-void Click(QWidget& dialog, const char* name) {
-    auto* button = Find<QPushButton>(dialog, name);
-    ASSERT_NE(button, nullptr) << name;
-    QTest::mouseClick(button, Qt::LeftButton);
-}
 
 void AddItem(QWidget& dialog, const char* text) {
     Find<QLineEdit>(dialog, "txtNewItem")->setText(text);
@@ -50,10 +40,7 @@ protected:
     }
     void EditWith(const std::function<void(QDialog&)>& drive) {
         owner.host.popupAnswers = {0};
-        owner.host.dialogAnswers.push_back([](DialogModel& model) {
-            const DialogRunner* run = FindDialog(model.DialogName());
-            return run && (*run)(model, nullptr);
-        });
+        AnswerWithRegisteredDialog(owner.host);
         OnNextModal([drive](QWidget* modal) {
             auto* dialog = qobject_cast<QDialog*>(modal);
             ASSERT_NE(dialog, nullptr);

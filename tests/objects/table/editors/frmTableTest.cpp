@@ -28,6 +28,7 @@
 #include "objects/table/TableObjectEditing.h"
 #include "objects/table/ctlKOMATable.h"
 #include "objects/table/editors/TableGridView.h"
+#include "platform/DialogDriver.h"
 #include "platform/DialogRegistry.h"
 #include "platform/ModalDriver.h"
 #include "resfile/ResourceFiles.h"
@@ -41,17 +42,6 @@ namespace {
 
 using Lines = std::vector<std::string>;
 namespace fs = std::filesystem;
-
-template <typename T>
-T* Find(QWidget& dialog, const char* name) {
-    return dialog.findChild<T*>(QString::fromLatin1(name));
-}
-
-void Click(QWidget& dialog, const char* name) {
-    auto* button = Find<QPushButton>(dialog, name);
-    ASSERT_NE(button, nullptr) << name;
-    QTest::mouseClick(button, Qt::LeftButton);
-}
 
 void Menu(QWidget& dialog, const char* name) {
     auto* action = dialog.findChild<QAction*>(QString::fromLatin1(name));
@@ -105,10 +95,7 @@ protected:
 
     // The next registered dialog, driven by `drive` once it shows.
     void Next(const std::function<void(QDialog&)>& drive) {
-        host.dialogAnswers.push_back([](DialogModel& model) {
-            const DialogRunner* run = FindDialog(model.DialogName());
-            return run && (*run)(model, nullptr);
-        });
+        AnswerWithRegisteredDialog(host);
         OnNextModal([drive](QWidget* modal) {
             auto* dialog = qobject_cast<QDialog*>(modal);
             ASSERT_NE(dialog, nullptr);
