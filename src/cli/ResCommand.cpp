@@ -1,5 +1,7 @@
 #include "cli/ResCommand.h"
 
+#include <sstream>
+
 #include "document/DataDirectory.h"
 #include "canvas/FontWidths.h"
 #include "cli/StderrHost.h"
@@ -15,7 +17,8 @@ namespace tolva {
 namespace {
 
 constexpr const char* kUsage =
-    "usage: tolva-res check IN.txt | tolva-res resave IN.txt OUT.txt [OUT.h] | tolva-res --help";
+    "usage: tolva-res [--quiet] check IN.txt | tolva-res [--quiet] resave IN.txt OUT.txt [OUT.h] | "
+    "tolva-res [--quiet] header IN.txt OUT.h | tolva-res --help";
 
 constexpr const char* kHelp =
     "tolva-res - the Tolva Resource Editor's loader and writers on the command line\n"
@@ -25,6 +28,12 @@ constexpr const char* kHelp =
     "  tolva-res resave IN.txt OUT.txt [OUT.h]\n"
     "      Loads it, then writes the resource text (and the header of object IDs)\n"
     "      as the editor's Save does.\n"
+    "  tolva-res header IN.txt OUT.h\n"
+    "      Loads it, then writes the header of object IDs alone, with the IDs the\n"
+    "      editor's Save would give.\n"
+    "  --quiet (before the command)\n"
+    "      Standard error holds only what a failed run says: the message boxes\n"
+    "      of a load that goes well are not printed.\n"
     "\n"
     "Every message box the editor would show is printed to standard error as one\n"
     "line, TITLE: TEXT, and is answered with its first button. Relative bitmap\n"
@@ -55,24 +64,37 @@ bool StartUp(Host& host) {
 
 }  // namespace
 
-int RunResCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
-    if (args.size() == 1 && (args[0] == "--help" || args[0] == "-h")) {
+int RunResCommand(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
+    std::vector<std::string> args = arguments;
+    const bool quiet = !args.empty() && args[0] == "--quiet";
+    if (quiet) args.erase(args.begin());
+    if (!quiet && args.size() == 1 && (args[0] == "--help" || args[0] == "-h")) {
         out << kHelp;
         return kResLoaded;
     }
     const bool check = !args.empty() && args[0] == "check" && args.size() == 2;
     const bool resave = !args.empty() && args[0] == "resave" && (args.size() == 3 || args.size() == 4);
-    if (!check && !resave) {
+    const bool header = !args.empty() && args[0] == "header" && args.size() == 3;
+    if (!check && !resave && !header) {
         err << kUsage << '\n';
         return kResUsage;
     }
 
-    StderrHost host(err);
+    // Quiet, the boxes wait here and reach standard error only when the run
+    // fails.
+    std::ostringstream held;
+    std::ostream& boxes = quiet ? static_cast<std::ostream&>(held) : err;
+    const auto failed = [&](int status) {
+        if (quiet) err << held.str();
+        return status;
+    };
+
+    StderrHost host(boxes);
     try {
-        if (!StartUp(host)) return kResNotLoaded;
+        if (!StartUp(host)) return failed(kResNotLoaded);
     } catch (const RuntimeFailure& failure) {
-        err << "start failed: " << failure.what() << '\n';
-        return kResNotLoaded;
+        boxes << "start failed: " << failure.what() << '\n';
+        return failed(kResNotLoaded);
     }
 
     NoLog log;
@@ -89,26 +111,32 @@ int RunResCommand(const std::vector<std::string>& args, std::ostream& out, std::
         loaded = LoadResourceFile(screen, args[1]);
     } catch (const RuntimeFailure& failure) {
         screen.StopLoading();
-        err << "load ended: " << failure.what() << '\n';
-        return kResLoadEnded;
+        boxes << "load ended: " << failure.what() << '\n';
+        return failed(kResLoadEnded);
     }
     if (!loaded) {
         // Open's own box, after whatever the load said; a run-time failure
         // above shows none, as Open's handler shows none.
         host.MessageBox(kCouldNotLoadResourceFile, "", MessageButtons::OK);
         screen.StopLoading();
-        return kResNotLoaded;
+        return failed(kResNotLoaded);
     }
     screen.StopLoading();
     if (check) return kResLoaded;
 
-    // As Save does: the resource text, then the header with the same IDs.
+    // As Save does: the resource text, then the header with the same IDs;
+    // the header alone takes the IDs Save would give.
     try {
-        SaveResourceFile(screen, args[2]);
-        if (args.size() == 4) SaveHeaderFile(screen, args[3]);
+        if (header) {
+            screen.DistributeObjectIds();
+            SaveHeaderFile(screen, args[2]);
+        } else {
+            SaveResourceFile(screen, args[2]);
+            if (args.size() == 4) SaveHeaderFile(screen, args[3]);
+        }
     } catch (const RuntimeFailure& failure) {
-        err << "save failed: " << failure.what() << '\n';
-        return kResLoadEnded;
+        boxes << "save failed: " << failure.what() << '\n';
+        return failed(kResLoadEnded);
     }
     return kResLoaded;
 }

@@ -2,6 +2,8 @@
 // tolva-res: the editor's loader and writers on the command line.
 //   tolva-res check IN.txt
 //   tolva-res resave IN.txt OUT.txt [OUT.h]
+//   tolva-res header IN.txt OUT.h
+//   --quiet before any of them keeps standard error to failed runs.
 #include <ostream>
 #include <string>
 #include <vector>
