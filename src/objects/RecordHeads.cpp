@@ -67,6 +67,26 @@ bool ParseHeadA(RecordReader& in, LoadedRecord& record, int groupCount) {
     return in.Word("~F3");
 }
 
+bool ParseHeadB(RecordReader& in, LoadedRecord& record, int groupCount, bool wideId) {
+    record = LoadedRecord{};
+    record.groups.assign(static_cast<std::size_t>(groupCount), ValueGroup{});
+    GroupList& g = record.groups;
+    if (!in.Key("NAME=", record.name)) return false;
+    g[0].push_back(record.name);
+    if (!(wideId ? in.Int32Key("ID=", record.id) : in.Int16Key("ID=", record.id))) return false;
+    g[0].push_back(IntToText(record.id));
+    if (!in.Word("~F0")) return false;
+    if (!in.Key("(B)OBJECT.TYPE=", record.kindWord)) return false;
+    if (!in.Word("~F1")) return false;
+    for (const char* key :
+         {"(SH)BOUNDS.X=", "(SH)BOUNDS.Y=", "(SH)BOUNDS.WIDTH=", "(SH)BOUNDS.HEIGHT="}) {
+        int value = 0;
+        if (!in.Int16Key(key, value)) return false;
+        g[1].push_back(IntToText(value));
+    }
+    return true;
+}
+
 void ApplyHeadA(KomaObject& object, const GroupList& groups) {
     const int x = ToInt16(groups[1][0]);
     const int y = ToInt16(groups[1][1]);

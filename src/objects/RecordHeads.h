@@ -26,6 +26,14 @@ void AppendHeadB(LineList& lines, const KomaObject& object, const std::string& s
 // not fit, when a line is not the expected one.
 bool ParseHeadA(RecordReader& in, LoadedRecord& record, int groupCount);
 
+// Reads head B, "NAME=" to the bounds (the "~F2" after them is left to the
+// kind), into a fresh record of groupCount groups: group 0 name and ID,
+// group 1 x, y, width, height; the type word to kindWord. The ID is a 32-bit
+// number with `wideId` (the scheduler line's), else 16 bits. False, after
+// the message of the line that does not fit, when a line is not the expected
+// one.
+bool ParseHeadB(RecordReader& in, LoadedRecord& record, int groupCount, bool wideId = false);
+
 // Applies a parsed head A: group 0's name, group 1's X and Y, and its width
 // and height as the object's screen size. The four numbers are converted
 // before anything is applied, so a value that is no 16-bit number throws

@@ -1,6 +1,7 @@
 #include "objects/menu/modMenu.h"
 
 #include "document/Numbers.h"
+#include "objects/RecordHeads.h"
 #include "resfile/LoadedRecord.h"
 #include "resfile/RecordReader.h"
 
@@ -12,22 +13,8 @@ void FillMenuValueLists(ValueLists& lists) {
 }
 
 bool ParseMenuRecord(RecordReader& in, LoadedRecord& record) {
-    record = LoadedRecord{};
-    record.groups.assign(6, ValueGroup{});
+    if (!ParseHeadB(in, record, 6)) return false;
     GroupList& g = record.groups;
-    if (!in.Key("NAME=", record.name)) return false;
-    g[0].push_back(record.name);
-    if (!in.Int16Key("ID=", record.id)) return false;
-    g[0].push_back(IntToText(record.id));
-    if (!in.Word("~F0")) return false;
-    if (!in.Key("(B)OBJECT.TYPE=", record.kindWord)) return false;
-    if (!in.Word("~F1")) return false;
-    for (const char* key :
-         {"(SH)BOUNDS.X=", "(SH)BOUNDS.Y=", "(SH)BOUNDS.WIDTH=", "(SH)BOUNDS.HEIGHT="}) {
-        int value = 0;
-        if (!in.Int16Key(key, value)) return false;
-        g[1].push_back(IntToText(value));
-    }
     int count = 0;
     if (!in.Word("~F2") || !in.Int32Key("(U)MENU_NUM_ITEMS=", count)) return false;
     g[2].push_back(IntToText(count));

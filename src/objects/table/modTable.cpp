@@ -3,6 +3,7 @@
 #include "document/Numbers.h"
 #include "document/TextHelpers.h"
 #include "document/Words.h"
+#include "objects/RecordHeads.h"
 #include "resfile/LoadedRecord.h"
 #include "resfile/RecordReader.h"
 
@@ -42,8 +43,6 @@ std::string CellDataTypeNumberToWord(int type) {
 }
 
 bool ParseTableRecord(RecordReader& in, LoadedRecord& record) {
-    record = LoadedRecord{};
-    record.groups.assign(21, ValueGroup{});
     GroupList& g = record.groups;
     auto group = [&](int index) -> ValueGroup& { return g[static_cast<std::size_t>(index)]; };
     auto word = [&](const char* key, int index) {
@@ -63,15 +62,8 @@ bool ParseTableRecord(RecordReader& in, LoadedRecord& record) {
         return true;
     };
 
-    if (!in.Key("NAME=", record.name)) return false;
-    g[0].push_back(record.name);
-    if (!in.Int16Key("ID=", record.id)) return false;
-    g[0].push_back(IntToText(record.id));
-    if (!in.Word("~F0") || !in.Key("(B)OBJECT.TYPE=", record.kindWord)) return false;
-    if (!in.Word("~F1")) return false;
+    if (!ParseHeadB(in, record, 21)) return false;
     int value = 0;
-    for (const char* key : {"(SH)BOUNDS.X=", "(SH)BOUNDS.Y=", "(SH)BOUNDS.WIDTH=", "(SH)BOUNDS.HEIGHT="})
-        if (!number16(key, 1, value)) return false;
     int columns = 0, rows = 0;
     if (!in.Word("~F2") || !number32("(U)TABLE_NUM_COLUMN=", 2, columns)) return false;
     if (!in.Word("~F3") || !number32("(U)TABLE_NUM_ROW=", 3, rows)) return false;
