@@ -4,6 +4,7 @@
 #include "document/Numbers.h"
 #include "document/ObjectTypes.h"
 #include "document/Words.h"
+#include "objects/RecordHeads.h"
 #include "objects/list/ListEditing.h"
 #include "resfile/Banners.h"
 
@@ -90,19 +91,7 @@ bool ctlKOMAMenu::CopyModelFrom(const KomaObject& other) {
 
 void ctlKOMAMenu::ReturnResourceFileText(LineList& lines, bool& ok) {
     AppendRecordBanner(lines, KOMAName(), false);
-    lines.push_back("#MENU");
-    lines.push_back("NAME=" + KOMAName());
-    lines.push_back("ID=" + IntToText(KOMAObjectID()));
-    lines.push_back("~F0");
-    lines.push_back("(B)OBJECT.TYPE=" + KOMAObjectTypeWord());
-    lines.push_back("~F1");
-    lines.push_back("//0 - 159");
-    lines.push_back("(SH)BOUNDS.X=" + IntToText(KOMABoundsX()));
-    lines.push_back("(SH)BOUNDS.Y=" + IntToText(KOMABoundsY()));
-    lines.push_back("//0 - 160");
-    lines.push_back("(SH)BOUNDS.WIDTH=" + IntToText(KOMAWidth()));
-    lines.push_back("(SH)BOUNDS.HEIGHT=" + IntToText(KOMAHeight()));
-    lines.push_back("~F2");
+    AppendHeadB(lines, *this, "#MENU");
     lines.push_back("(U)MENU_NUM_ITEMS=" + IntToText(KOMANumItems()));
     lines.push_back("~F3");
     lines.push_back("//NO_SELECTION or 0 - ??");

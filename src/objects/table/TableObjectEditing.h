@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "document/DialogModel.h"
-#include "document/ObjectOwner.h"
+#include "objects/table/CellObjectOwner.h"
 #include "inspector/PropertyArray.h"
 
 namespace tolva {
@@ -21,7 +21,7 @@ class KomaObject;
 class LogSink;
 class ctlKOMATable;
 
-class TableObjectEditing : public DialogModel, private ObjectOwner {
+class TableObjectEditing : public DialogModel, private CellObjectOwner {
 public:
     static constexpr const char* kDialogName = "frmTableObjects";
     static constexpr int kKindCount = 11;
@@ -58,17 +58,7 @@ private:
     // --- what the eleven objects talk to ---------------------------------------------
     Host& OwnerHost() override { return host_; }
     LogSink& OwnerLog() override { return log_; }
-    bool IsNewNameUnique(const std::string&, const std::string&) override { return true; }
-    bool OwnerGetObjectID(const std::string&, int&) override { return false; }
-    void ObjectMouseDown(KomaObject&, int, int, double, double) override {}
-    void ObjectMouseMove(KomaObject&, int, int, double, double) override {}
-    void ObjectMouseUp(KomaObject&, int, int, double, double) override {}
-    void ObjectSelected(KomaObject&) override {}
-    void ObjectDeleted(KomaObject&) override {}
-    void ObjectMoved(KomaObject&, int, int) override {}
     void ObjectResized(KomaObject& object, int width, int height) override;
-    void ObjectPicChanged(KomaObject&) override {}
-    long long NextStackStamp(bool) override { return 0; }
 
     Host& host_;
     LogSink& log_;

@@ -7,6 +7,7 @@
 #include "document/TextHelpers.h"
 #include "document/Words.h"
 #include "objects/PictureFiles.h"
+#include "objects/RecordHeads.h"
 #include "objects/table/ctlKOMATable.h"
 #include "objects/table/modTable.h"
 #include "resfile/Banners.h"
@@ -50,19 +51,7 @@ void ctlKOMATable::ReturnResourceFileText(LineList& lines, bool& ok) {
         return;
     }
     AppendRecordBanner(lines, KOMAName(), false);
-    lines.push_back("#TABLE");
-    lines.push_back("NAME=" + KOMAName());
-    lines.push_back("ID=" + IntToText(KOMAObjectID()));
-    lines.push_back("~F0");
-    lines.push_back("(B)OBJECT.TYPE=" + KOMAObjectTypeWord());
-    lines.push_back("~F1");
-    lines.push_back("//0 - 159");
-    lines.push_back("(SH)BOUNDS.X=" + IntToText(KOMABoundsX()));
-    lines.push_back("(SH)BOUNDS.Y=" + IntToText(KOMABoundsY()));
-    lines.push_back("//0 - 160");
-    lines.push_back("(SH)BOUNDS.WIDTH=" + IntToText(KOMAWidth()));
-    lines.push_back("(SH)BOUNDS.HEIGHT=" + IntToText(KOMAHeight()));
-    lines.push_back("~F2");
+    AppendHeadB(lines, *this, "#TABLE");
     lines.push_back("(U)TABLE_NUM_COLUMN=" + IntToText(numColumns_));
     lines.push_back("~F3");
     lines.push_back("(U)TABLE_NUM_ROW=" + IntToText(numRows_));

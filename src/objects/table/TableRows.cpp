@@ -1,11 +1,7 @@
-// The Table's inspector rows, its popup menu and its cell bitmap file.
-#include <cmath>
-
+// The Table's inspector rows, its popup menu and the opening of its editor.
 #include "document/Host.h"
 #include "document/Numbers.h"
-#include "document/Paths.h"
 #include "document/PropertyLabels.h"
-#include "document/StringTable.h"
 #include "document/Words.h"
 #include "objects/table/TableEditing.h"
 #include "objects/table/ctlKOMATable.h"
@@ -76,65 +72,12 @@ void ctlKOMATable::MouseDown(int button, int shift, double x, double y) {
     if (*choice == 1) EditTable();
 }
 
-void ctlKOMATable::SetBitmapFromChooser() {
-    FileChooserRequest request;
-    request.title = "Select Table Bitmap";
-    request.filter = "Bitmaps (*.bmp)|*.bmp";
-    request.defaultExtension = "*.bmp";
-    request.initialName = "*.bmp";
-    const auto choice = host().ChooseOpenFile(request);
-    // The chooser's cancel counts as one of its errors.
-    if (!choice) {
-        Message("Unknown Error");
-        return;
-    }
-    KOMABitmapFile(*choice);
-    RaisePicChanged();
-}
-
-bool ctlKOMATable::CheckTableBitmapFile(const std::string& path) {
-    if (path.empty()) return true;
-    if (!host().FileExists(path)) {
-        Message(LoadResString(msg::BitmapNotFound), KOMAName());
-        return false;
-    }
-    if (!IsShortPath(path)) {
-        Message(LoadResString(msg::PathNotShort), KOMAName());
-        return false;
-    }
-    const auto size = host().LoadPicture(path);
-    if (!size) {
-        Message(LoadResString(msg::BitmapNotFound), KOMAName());
-        return false;
-    }
-    if (size->width > 160 || size->height > 160) {
-        Message(LoadResString(msg::BitmapTooLarge), KOMAName());
-        return false;
-    }
-    bitmapX_ = 0;
-    bitmapY_ = 0;
-    bitmapHeight_ = size->height;
-    bitmapWidth_ = size->width;
-    return true;
-}
-
 void ctlKOMATable::EditTable() {
     // The editor writes its copy back itself at Done; what it did to rows,
     // columns and objects has gone to the table already.
     TableEditing edit(host(), *this);
     host().RunDialog(edit);
     RaisePicChanged();
-}
-
-// --- on the design screen ----------------------------------------------------------------
-
-DrawElementList ctlKOMATable::GetDrawElements() const {
-    // A plain box saying "Table": nothing of the grid shows here.
-    DrawElement box = ShapeElement("shpBox", {0, 0, Width(), Height()});
-    box.filled = true;
-    box.fillColor = kWhite;
-    DrawElement label = TextElement("Label1", {240, 120, 1095, 495}, "Table");
-    return {box, label};
 }
 
 }  // namespace tolva

@@ -148,4 +148,34 @@ void ctlKOMATable::KOMAObjectID(int id) {
             if (object) object->KOMARelatedTableID(id);
 }
 
+// --- the copy of a whole table ------------------------------------------------------
+
+bool ctlKOMATable::CopyModelFrom(const KomaObject& other) {
+    auto* table = dynamic_cast<const ctlKOMATable*>(&other);
+    if (!table) return false;
+    // Place, size, three flags and the style; then counts, sizes and cells;
+    // then each cell's object. The background colour, the scrollbar and
+    // highlight words, the first row and column and the bitmap stay.
+    KOMABoundsX(table->KOMABoundsX());
+    KOMABoundsY(table->KOMABoundsY());
+    StoreSize(table->KOMAWidth(), table->KOMAHeight());
+    enableWord_ = table->enableWord_;
+    activeWord_ = table->activeWord_;
+    visibleWord_ = table->visibleWord_;
+    styleWord_ = table->styleWord_;
+    SetTableProperties(table->GetTableProperties());
+    StoreSize(table->KOMAWidth(), table->KOMAHeight());
+    objects_.clear();
+    for (int r = 1; r <= numRows_; ++r)
+        for (int c = 1; c <= numColumns_; ++c) {
+            KomaObject* object = nullptr;
+            bool inGrid = false;
+            table->GetObject(r, c, object, inGrid);
+            if (object) SetObject(r, c, object, inGrid);
+        }
+    // The form it lies on goes along, as with every kind.
+    ParentForm(table->ParentForm());
+    return true;
+}
+
 }  // namespace tolva

@@ -455,5 +455,23 @@ TEST_F(TableTest, ARecordThatCannotBeAppliedSaysSo) {
     EXPECT_TRUE(owner.host.messages.empty());
 }
 
+TEST_F(TableTest, TheBitmapsPlaceSizeAndTheIdRefuseWithTheirMessages) {
+    table.KOMABitmapX(160);
+    table.KOMABitmapY(-1);
+    table.KOMABitmapWidth(161);
+    table.KOMABitmapHeight(-1);
+    table.KOMAObjectID(-1);
+    EXPECT_EQ(owner.host.MessageLines(),
+              (Lines{"Tolva Resource Editor: Invalid value", "Tolva Resource Editor: Invalid value",
+                     "Tolva Resource Editor: Invalid value", "Tolva Resource Editor: Invalid value",
+                     "KOMAObjectID: Invalid value"}));
+    table.KOMABitmapX(159);
+    table.KOMABitmapWidth(160);
+    EXPECT_EQ(table.KOMABitmapX(), 159);
+    EXPECT_EQ(table.KOMABitmapWidth(), 160);
+    EXPECT_EQ(table.KOMABitmapY(), 0);
+    EXPECT_EQ(table.KOMAObjectID(), 0);
+}
+
 }  // namespace
 }  // namespace tolva::testing
