@@ -2,9 +2,11 @@
 
 #include <sstream>
 
-#include "document/DataDirectory.h"
+#include "canvas/DeviceFont.h"
 #include "canvas/FontWidths.h"
 #include "cli/StderrHost.h"
+#include "cli/qt/FormPictures.h"
+#include "document/DataDirectory.h"
 #include "document/LogSink.h"
 #include "document/RuntimeFailure.h"
 #include "document/StringTable.h"
@@ -18,7 +20,8 @@ namespace {
 
 constexpr const char* kUsage =
     "usage: tolva-res [--quiet] check IN.txt | tolva-res [--quiet] resave IN.txt OUT.txt [OUT.h] | "
-    "tolva-res [--quiet] header IN.txt OUT.h | tolva-res --help";
+    "tolva-res [--quiet] header IN.txt OUT.h | "
+    "tolva-res [--quiet] render IN.txt OUTDIR [--scale N] [--form NAME] | tolva-res --help";
 
 constexpr const char* kHelp =
     "tolva-res - the Tolva Resource Editor's loader and writers on the command line\n"
@@ -31,6 +34,12 @@ constexpr const char* kHelp =
     "  tolva-res header IN.txt OUT.h\n"
     "      Loads it, then writes the header of object IDs alone, with the IDs the\n"
     "      editor's Save would give.\n"
+    "  tolva-res render IN.txt OUTDIR [--scale N] [--form NAME]\n"
+    "      Loads it, then writes a picture of each form, OUTDIR/FORMNAME.png: the\n"
+    "      device screen as the device shows it, 160 by 160 device pixels in its\n"
+    "      greys, each device pixel an N by N square (N from 1 to 32, 1 when not\n"
+    "      given), painted as the editor's canvas paints it, without grid or\n"
+    "      selection. --form paints that form alone. OUTDIR is made when missing.\n"
     "  --quiet (before the command)\n"
     "      Standard error holds only what a failed run says: the message boxes\n"
     "      of a load that goes well are not printed.\n"
@@ -45,6 +54,7 @@ constexpr const char* kHelp =
     "      \"Could not load resource file\", are on standard error)\n"
     "  2   a run-time failure ended the load silently (\"load ended: \" and why on\n"
     "      standard error), or a file could not be written (\"save failed: \")\n"
+    "      or a picture could not be (\"render failed: \")\n"
     "  64  a wrong command line\n";
 
 class NoLog : public LogSink {
@@ -53,13 +63,43 @@ public:
 };
 
 // What the editor reads at start-up that a load needs: the string table and
-// the two width tables.
+// the two width tables; and the glyphs of the device fonts, which pictures
+// of the forms are drawn with.
 bool StartUp(Host& host) {
     StringTable& table = StringTable::Shared();
     table.LoadFromFile(DataDirectory(host) + "/Strings.txt");
     table.SetLanguage(host.LanguageId());
     ColorWordList();
-    return LoadFontWidths(host);
+    if (!LoadFontWidths(host)) return false;
+    LoadDeviceFonts(DataDirectory(host));
+    return true;
+}
+
+// The command line of render: IN.txt OUTDIR, then --scale N and --form NAME
+// in either order, each at most once.
+bool ParseRender(const std::vector<std::string>& args, FormPicturesRequest& request) {
+    if (args.size() < 3 || args[0] != "render") return false;
+    request.folder = args[2];
+    bool scaleGiven = false, formGiven = false;
+    for (size_t i = 3; i < args.size(); i += 2) {
+        if (i + 1 >= args.size()) return false;
+        const std::string& value = args[i + 1];
+        if (args[i] == "--scale" && !scaleGiven) {
+            scaleGiven = true;
+            if (value.empty() || value.size() > 2 ||
+                value.find_first_not_of("0123456789") != std::string::npos)
+                return false;
+            request.scale = std::stoi(value);
+            if (request.scale < kLeastPictureScale || request.scale > kMostPictureScale)
+                return false;
+        } else if (args[i] == "--form" && !formGiven && !value.empty()) {
+            formGiven = true;
+            request.form = value;
+        } else {
+            return false;
+        }
+    }
+    return !request.folder.empty();
 }
 
 }  // namespace
@@ -75,7 +115,9 @@ int RunResCommand(const std::vector<std::string>& arguments, std::ostream& out, 
     const bool check = !args.empty() && args[0] == "check" && args.size() == 2;
     const bool resave = !args.empty() && args[0] == "resave" && (args.size() == 3 || args.size() == 4);
     const bool header = !args.empty() && args[0] == "header" && args.size() == 3;
-    if (!check && !resave && !header) {
+    FormPicturesRequest pictures;
+    const bool render = ParseRender(args, pictures);
+    if (!check && !resave && !header && !render) {
         err << kUsage << '\n';
         return kResUsage;
     }
@@ -92,6 +134,13 @@ int RunResCommand(const std::vector<std::string>& arguments, std::ostream& out, 
     StderrHost host(boxes);
     try {
         if (!StartUp(host)) return failed(kResNotLoaded);
+        // A picture shows device text as the device draws it, or not at all.
+        if (render && (!FindDeviceFont("TolvaSmall") || !FindDeviceFont("TolvaMedium"))) {
+            boxes << "start failed: the device fonts TolvaSmall.font and TolvaMedium.font are "
+                     "missing from "
+                  << DataDirectory(host) << '\n';
+            return failed(kResNotLoaded);
+        }
     } catch (const RuntimeFailure& failure) {
         boxes << "start failed: " << failure.what() << '\n';
         return failed(kResNotLoaded);
@@ -123,6 +172,20 @@ int RunResCommand(const std::vector<std::string>& arguments, std::ostream& out, 
     }
     screen.StopLoading();
     if (check) return kResLoaded;
+
+    if (render) {
+        const FormPicturesResult result = WriteFormPictures(screen, pictures);
+        if (result.noSuchForm) {
+            // A form the design lacks is a wrong command line.
+            err << "tolva-res: " << result.failure << " in " << args[1] << '\n' << kUsage << '\n';
+            return kResUsage;
+        }
+        if (!result.failure.empty()) {
+            boxes << "render failed: " << result.failure << '\n';
+            return failed(kResLoadEnded);
+        }
+        return kResLoaded;
+    }
 
     // As Save does: the resource text, then the header with the same IDs;
     // the header alone takes the IDs Save would give.

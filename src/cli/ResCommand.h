@@ -3,6 +3,7 @@
 //   tolva-res check IN.txt
 //   tolva-res resave IN.txt OUT.txt [OUT.h]
 //   tolva-res header IN.txt OUT.h
+//   tolva-res render IN.txt OUTDIR [--scale N] [--form NAME]
 //   --quiet before any of them keeps standard error to failed runs.
 #include <ostream>
 #include <string>

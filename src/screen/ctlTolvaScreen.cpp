@@ -5,6 +5,7 @@
 #include "screen/ctlTolvaScreen.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "document/Host.h"
 #include "document/LogSink.h"
@@ -123,15 +124,45 @@ long long ctlTolvaScreen::NextStackStamp(bool toFront) {
     return toFront ? ++frontStamp_ : --backStamp_;
 }
 
-std::vector<KomaObject*> ctlTolvaScreen::VisibleObjectsInStackingOrder() const {
+std::vector<KomaObject*> ctlTolvaScreen::OnShowInStackingOrder(
+    const std::vector<KomaObject*>& objects) {
     std::vector<KomaObject*> out;
-    for (const auto& array : arrays_)
-        for (const auto& object : array)
-            if (object->Visible()) out.push_back(object.get());
+    for (KomaObject* object : objects)
+        if (object->Visible()) out.push_back(object);
+    // Stable: equal stamps keep the array order.
     std::stable_sort(out.begin(), out.end(), [](const KomaObject* a, const KomaObject* b) {
         return a->StackStamp() < b->StackStamp();
     });
     return out;
+}
+
+std::vector<KomaObject*> ctlTolvaScreen::VisibleObjectsInStackingOrder() const {
+    std::vector<KomaObject*> all;
+    for (const auto& array : arrays_)
+        for (const auto& object : array) all.push_back(object.get());
+    return OnShowInStackingOrder(all);
+}
+
+std::vector<std::vector<KomaObject*>> ctlTolvaScreen::ObjectsOfEachForm() const {
+    const int forms = NumForms();
+    std::vector<std::vector<KomaObject*>> lists(static_cast<size_t>(forms));
+    std::unordered_map<const KomaObject*, size_t> formNumber;
+    for (int i = 1; i <= forms; ++i) formNumber[FormAt(i)] = static_cast<size_t>(i - 1);
+    // A stable sort of a part keeps the order the whole would give it, so
+    // each list in array order sorts as the whole does.
+    for (const auto& array : arrays_)
+        for (const auto& object : array) {
+            const KomaObject* form = object->ScreenType() == type::Form
+                                         ? object.get()
+                                         : static_cast<const KomaObject*>(object->ParentForm());
+            auto it = form ? formNumber.find(form) : formNumber.end();
+            if (it != formNumber.end()) {
+                lists[it->second].push_back(object.get());
+            } else {
+                for (auto& list : lists) list.push_back(object.get());
+            }
+        }
+    return lists;
 }
 
 // --- name lists ---------------------------------------------------------------------------

@@ -218,6 +218,14 @@ public:
     // The objects on show, back to front (the canvas paints and hit-tests
     // in this order).
     std::vector<KomaObject*> VisibleObjectsInStackingOrder() const;
+    // For each form in turn, in one pass over the arrays, the objects that
+    // may show with it, in array order: the form, its embedded objects and
+    // any object of no form.
+    std::vector<std::vector<KomaObject*>> ObjectsOfEachForm() const;
+    // Those of a list that are on show, back to front: while one form is
+    // shown, its list gives the objects VisibleObjectsInStackingOrder gives,
+    // in the same order, without passing the other forms' objects.
+    static std::vector<KomaObject*> OnShowInStackingOrder(const std::vector<KomaObject*>& objects);
 
     // --- ObjectOwner ----------------------------------------------------------
     Host& OwnerHost() override { return host_; }

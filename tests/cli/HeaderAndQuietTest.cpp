@@ -50,13 +50,16 @@ TEST_F(HeaderAndQuiet, QuietStillSaysAllOfAFailedRun) {
 TEST_F(HeaderAndQuiet, TheHelpAndTheUsageLineNameEveryCommand) {
     EXPECT_EQ(Run("--help"), 0);
     for (const char* command : {"tolva-res check IN.txt", "tolva-res resave IN.txt OUT.txt [OUT.h]",
-                                "tolva-res header IN.txt OUT.h", "--quiet"})
+                                "tolva-res header IN.txt OUT.h",
+                                "tolva-res render IN.txt OUTDIR [--scale N] [--form NAME]", "--quiet"})
         EXPECT_NE(out.find(command), std::string::npos) << command;
     for (const char* wrong : {"header in.txt", "header in.txt a.h b.h", "--quiet", "--quiet --help",
                               "--quiet open in.txt"}) {
         EXPECT_EQ(Run(wrong), 64) << wrong;
         EXPECT_EQ(err.rfind("usage: tolva-res [--quiet] check IN.txt", 0), 0u) << err;
         EXPECT_NE(err.find("tolva-res [--quiet] header IN.txt OUT.h"), std::string::npos);
+        EXPECT_NE(err.find("tolva-res [--quiet] render IN.txt OUTDIR [--scale N] [--form NAME]"),
+                  std::string::npos);
     }
 }
 

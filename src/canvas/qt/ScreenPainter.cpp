@@ -28,13 +28,20 @@ QColor ScreenPainter::ToQColor(const DrawColor& color) {
     return QColor(color.red, color.green, color.blue);
 }
 
+QColor ScreenPainter::Ink(const DrawColor& color) const {
+    if (!deviceGreys_) return ToQColor(color);
+    const uint32_t grey =
+        DeviceGrey(uint32_t(color.red) << 16 | uint32_t(color.green) << 8 | color.blue, 2);
+    return QColor::fromRgb(0xFF000000u | grey);
+}
+
 QRectF ScreenPainter::ToPixels(const CanvasRect& rect) const {
-    return QRectF(rect.left / unitsPerPixel_, rect.top / unitsPerPixel_,
-                  rect.width / unitsPerPixel_, rect.height / unitsPerPixel_);
+    return QRectF(XToPixels(rect.left), YToPixels(rect.top), rect.width / unitsPerPixel_,
+                  rect.height / unitsPerPixel_);
 }
 
 QPointF ScreenPainter::ToPixels(double x, double y) const {
-    return QPointF(x / unitsPerPixel_, y / unitsPerPixel_);
+    return QPointF(XToPixels(x), YToPixels(y));
 }
 
 void ScreenPainter::Paint(QPainter& painter, const ctlTolvaScreen& screen) {
@@ -43,7 +50,7 @@ void ScreenPainter::Paint(QPainter& painter, const ctlTolvaScreen& screen) {
     painter.fillRect(ToPixels(screen.BorderRect()),
                      ToQColor(DrawColor::FromStored(kBorderFillColor)));
     painter.fillRect(ToPixels(screen.DeviceAreaRect()),
-                     ToQColor(DrawColor::FromStored(kDeviceFillColor)));
+                     Ink(DrawColor::FromStored(kDeviceFillColor)));
 
     // The dots lie behind the objects.
     PaintGrid(painter, screen);
@@ -53,6 +60,22 @@ void ScreenPainter::Paint(QPainter& painter, const ctlTolvaScreen& screen) {
 
     PaintBand(painter, screen);
     PaintNodes(painter, screen);
+    painter.restore();
+}
+
+void ScreenPainter::PaintDevice(QPainter& painter, const ctlTolvaScreen& screen) {
+    PaintDevice(painter, screen, screen.VisibleObjectsInStackingOrder());
+}
+
+void ScreenPainter::PaintDevice(QPainter& painter, const ctlTolvaScreen& screen,
+                                const std::vector<KomaObject*>& objects) {
+    painter.save();
+    if (deviceGreys_) {
+        painter.setRenderHint(QPainter::Antialiasing, false);
+    }
+    painter.fillRect(ToPixels(screen.DeviceAreaRect()),
+                     Ink(DrawColor::FromStored(kDeviceFillColor)));
+    for (const KomaObject* object : objects) PaintObject(painter, *object);
     painter.restore();
 }
 
@@ -144,23 +167,23 @@ void ScreenPainter::PaintElement(QPainter& painter, const DrawElement& element, 
             if (!element.outline && element.filled && !element.rounded) {
                 // A plain block lies on whole desktop pixels, one at the
                 // least: a bar thinner than a pixel still shows, crisply.
-                auto edge = [&](double units) { return std::round(ToPixels(units)); };
-                const double l = edge(placed.left), t = edge(placed.top);
-                const double r = std::max(l + 1, edge(placed.left + placed.width));
-                const double b = std::max(t + 1, edge(placed.top + placed.height));
+                const double l = std::round(XToPixels(placed.left));
+                const double t = std::round(YToPixels(placed.top));
+                const double r = std::max(l + 1, std::round(XToPixels(placed.left + placed.width)));
+                const double b = std::max(t + 1, std::round(YToPixels(placed.top + placed.height)));
                 if (placed.width > 0 && placed.height > 0)
-                    painter.fillRect(QRectF(l, t, r - l, b - t), ToQColor(element.fillColor));
+                    painter.fillRect(QRectF(l, t, r - l, b - t), Ink(element.fillColor));
                 break;
             }
             QPen pen(Qt::NoPen);
             double penWidth = 0;
             if (element.outline) {
                 penWidth = std::max(1.0, ToPixels(element.outlineWidth));
-                pen = QPen(ToQColor(element.outlineColor), penWidth);
+                pen = QPen(Ink(element.outlineColor), penWidth);
                 pen.setJoinStyle(Qt::MiterJoin);
             }
             painter.setPen(pen);
-            painter.setBrush(element.filled ? QBrush(ToQColor(element.fillColor)) : Qt::NoBrush);
+            painter.setBrush(element.filled ? QBrush(Ink(element.fillColor)) : Qt::NoBrush);
             // The outline lies inside the box.
             const QRectF inner = box.adjusted(penWidth / 2, penWidth / 2, -penWidth / 2,
                                               -penWidth / 2);
@@ -173,8 +196,16 @@ void ScreenPainter::PaintElement(QPainter& painter, const DrawElement& element, 
             break;
         }
         case DrawElementKind::TextBox: {
-            if (element.opaque) painter.fillRect(box, ToQColor(element.backColor));
+            if (element.opaque) painter.fillRect(box, Ink(element.backColor));
             if (PaintDeviceText(painter, element, placed)) break;
+            if (deviceGreys_) {
+                // The device has no other fonts.
+                DrawElement onDevice = element;
+                onDevice.font.name = "TolvaSmall";
+                onDevice.devicePixel = devicePixel_;
+                PaintDeviceText(painter, onDevice, placed);
+                break;
+            }
             QFont font = painter.font();
             if (!element.font.name.empty()) font.setFamily(FromCp1252(element.font.name));
             // A point is 20 screen units: the text keeps its size on the
@@ -184,7 +215,7 @@ void ScreenPainter::PaintElement(QPainter& painter, const DrawElement& element, 
                                                   ToPixels(element.font.size * 20)))));
             font.setBold(element.font.bold);
             painter.setFont(font);
-            painter.setPen(ToQColor(element.foreColor));
+            painter.setPen(Ink(element.foreColor));
             int flags = Qt::TextWordWrap;
             switch (element.alignment) {
                 case TextAlignment::Left: flags |= Qt::AlignLeft; break;
@@ -207,7 +238,7 @@ void ScreenPainter::PaintElement(QPainter& painter, const DrawElement& element, 
         }
         case DrawElementKind::Line: {
             if (PaintDeviceLine(painter, element, left, top)) break;
-            QPen pen(ToQColor(element.lineColor), std::max(1.0, ToPixels(element.lineWidth)));
+            QPen pen(Ink(element.lineColor), std::max(1.0, ToPixels(element.lineWidth)));
             painter.setPen(pen);
             painter.drawLine(ToPixels(left + element.x1, top + element.y1),
                              ToPixels(left + element.x2, top + element.y2));
@@ -240,19 +271,38 @@ bool ScreenPainter::PaintDeviceText(QPainter& painter, const DrawElement& elemen
     CanvasRect clip = placed;
     clip.height = std::max(placed.height, (y + font->height) * dp);
     painter.setClipRect(ToPixels(clip), Qt::IntersectClip);
-    const QColor ink = ToQColor(element.foreColor);
-    auto dot = [&](int px, int py) {
-        FillDevicePixel(painter, placed.left + px * dp, placed.top + py * dp, dp, ink);
-    };
-    for (const char c : element.text) {
-        const DeviceGlyph& glyph = font->Glyph(c);
-        for (int gy = 0; gy < font->height; ++gy)
+    const QColor ink = Ink(element.foreColor);
+    // Row by row, each run of ink pixels in one rectangle: a run covers the
+    // same desktop pixels as its device pixels one by one would, in far
+    // fewer steps.
+    std::vector<char> row(static_cast<size_t>(std::max(0, textWidth)) + 2);
+    QVector<QRectF> runs;
+    for (int gy = 0; gy < font->height; ++gy) {
+        std::fill(row.begin(), row.end(), 0);
+        int at = 0;
+        for (const char c : element.text) {
+            const DeviceGlyph& glyph = font->Glyph(c);
             for (int gx = 0; gx < glyph.width; ++gx)
-                if (glyph.Ink(gx, gy)) {
-                    dot(x + gx, y + gy);
-                    if (extra) dot(x + gx + 1, y + gy);
-                }
-        x += glyph.width + 1 + extra;
+                if (glyph.Ink(gx, gy)) row[at + gx] = row[at + gx + extra] = 1;
+            at += glyph.width + 1 + extra;
+        }
+        const double top = placed.top + (y + gy) * dp;
+        for (size_t from = 0; from < row.size();) {
+            if (!row[from]) {
+                ++from;
+                continue;
+            }
+            size_t to = from;
+            while (to < row.size() && row[to]) ++to;
+            runs.append(DevicePixels(placed.left + (x + double(from)) * dp, top,
+                                     placed.left + (x + double(to)) * dp, top + dp));
+            from = to;
+        }
+    }
+    if (!runs.isEmpty()) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ink);
+        painter.drawRects(runs.constData(), static_cast<int>(runs.size()));
     }
     painter.restore();
     return true;
@@ -264,20 +314,41 @@ bool ScreenPainter::PaintDeviceLine(QPainter& painter, const DrawElement& elemen
     if (dp <= 0 || element.y1 != element.y2) return false;
     const double from = std::min(element.x1, element.x2);
     const int count = static_cast<int>((std::max(element.x1, element.x2) - from) / dp);
-    const QColor ink = ToQColor(element.lineColor);
-    for (int i = 0; i < count; i += element.dotted ? 2 : 1)
-        FillDevicePixel(painter, left + from + i * dp, top + element.y1, dp, ink);
+    const QColor ink = Ink(element.lineColor);
+    const double y = top + element.y1;
+    if (count <= 0) return true;
+    if (!element.dotted) {
+        // One run: the same desktop pixels as its device pixels one by one.
+        painter.fillRect(DevicePixels(left + from, y, left + from + count * dp, y + dp), ink);
+        return true;
+    }
+    QVector<QRectF> dots;
+    dots.reserve((count + 1) / 2);
+    for (int i = 0; i < count; i += 2)
+        dots.append(DevicePixels(left + from + i * dp, y, left + from + (i + 1) * dp, y + dp));
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    painter.drawRects(dots.constData(), static_cast<int>(dots.size()));
+    painter.restore();
     return true;
 }
 
 void ScreenPainter::FillDevicePixel(QPainter& painter, double ux, double uy, double size,
                                     const QColor& color) {
-    auto edge = [&](double units) { return std::round(ToPixels(units)); };
-    const double l = edge(ux), t = edge(uy), r = edge(ux + size), b = edge(uy + size);
-    painter.fillRect(QRectF(l, t, std::max(1.0, r - l), std::max(1.0, b - t)), color);
+    painter.fillRect(DevicePixels(ux, uy, ux + size, uy + size), color);
+}
+
+QRectF ScreenPainter::DevicePixels(double left, double top, double right, double bottom) const {
+    const double l = std::round(XToPixels(left)), t = std::round(YToPixels(top));
+    const double r = std::round(XToPixels(right)), b = std::round(YToPixels(bottom));
+    return QRectF(l, t, std::max(1.0, r - l), std::max(1.0, b - t));
 }
 
 const QImage& ScreenPainter::Picture(const std::string& path, int depth) {
+    // In four greys, a picture of the file's own colours takes the greys of
+    // two bits.
+    if (deviceGreys_ && depth == 0) depth = 2;
     const QString key = FromCp1252(path) + QLatin1Char('|') + QString::number(depth);
     auto it = pictures_.find(key);
     if (it != pictures_.end()) return it.value();

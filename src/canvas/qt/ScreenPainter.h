@@ -29,6 +29,25 @@ public:
 
     // Paints the whole screen with its top left corner at the painter's 0, 0.
     void Paint(QPainter& painter, const ctlTolvaScreen& screen);
+    // The device area alone, as the device shows it: its fill and the
+    // visible objects in stacking order, without frame, grid, band or nodes.
+    void PaintDevice(QPainter& painter, const ctlTolvaScreen& screen);
+    // The same with the objects given, back to front.
+    void PaintDevice(QPainter& painter, const ctlTolvaScreen& screen,
+                     const std::vector<KomaObject*>& objects);
+
+    // The screen point that lands on the painter's 0, 0 (screen units).
+    void SetOrigin(double x, double y) { originX_ = x; originY_ = y; }
+    // As the device shows it: every colour in the nearest of the device's
+    // four greys, no smoothing anywhere, and every text in a device font
+    // (a text in the window's font in "TolvaSmall", on device pixels of
+    // `devicePixel` screen units). A picture keeps the greys of its depth;
+    // one of the file's own colours takes four greys. Off, colours and fonts
+    // are painted as given.
+    void SetDeviceGreys(bool on, double devicePixel = 0) {
+        deviceGreys_ = on;
+        devicePixel_ = devicePixel;
+    }
 
     // One object's elements, with the object's top left corner at left, top
     // (screen units).
@@ -43,12 +62,20 @@ public:
     // One device pixel of `size` screen units at ux, uy, on whole desktop
     // pixels, so that neighbouring pixels meet without seams.
     void FillDevicePixel(QPainter& painter, double ux, double uy, double size, const QColor& color);
+    // The whole desktop pixels that device pixels from left, top to right,
+    // bottom (screen units) cover: one at the least each way.
+    QRectF DevicePixels(double left, double top, double right, double bottom) const;
 
     QRectF ToPixels(const CanvasRect& rect) const;
     QPointF ToPixels(double x, double y) const;
     double ToPixels(double length) const { return length / unitsPerPixel_; }
+    // A place across or down, from the origin.
+    double XToPixels(double x) const { return (x - originX_) / unitsPerPixel_; }
+    double YToPixels(double y) const { return (y - originY_) / unitsPerPixel_; }
 
     static QColor ToQColor(const DrawColor& color);
+    // The colour as this painter paints it (in four greys when asked).
+    QColor Ink(const DrawColor& color) const;
 
 private:
     void PaintGrid(QPainter& painter, const ctlTolvaScreen& screen);
@@ -60,6 +87,9 @@ private:
     const QImage& Picture(const std::string& path, int depth);
 
     double unitsPerPixel_;
+    double originX_ = 0, originY_ = 0;
+    bool deviceGreys_ = false;
+    double devicePixel_ = 0;
 
     // The dot centres of the grid last painted, made again only when the
     // grid or the canvas changes.
