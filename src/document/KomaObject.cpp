@@ -342,6 +342,28 @@ bool KomaObject::CopyModelFrom(const KomaObject& other) {
 
 bool KomaObject::CopyCellMembersFrom(const KomaObject&) { return false; }
 
+bool KomaObject::CopyWholeStateFrom(const KomaObject& other) {
+    if (!CopyModelFrom(other)) return false;
+    CopyCanvasStateFrom(other);
+    // The layout is made from the model and the size alone: made again, it
+    // is the other's.
+    LayOut();
+    return true;
+}
+
+void KomaObject::CopyCanvasStateFrom(const KomaObject& other) {
+    allowRedraw_ = other.allowRedraw_;
+    parentForm_ = other.parentForm_;
+    index_ = other.index_;
+    left_ = other.left_;
+    top_ = other.top_;
+    canvasWidth_ = other.canvasWidth_;
+    canvasHeight_ = other.canvasHeight_;
+    visible_ = other.visible_;
+    hasFocus_ = other.hasFocus_;
+    stackStamp_ = other.stackStamp_;
+}
+
 void KomaObject::CopyCellPlaceFrom(const KomaObject& other) {
     boundsX_ = other.boundsX_;
     boundsY_ = other.boundsY_;

@@ -142,6 +142,13 @@ public:
     // lists, nothing else; name and id stay. False for another kind, and for
     // a kind that cannot stand in a cell.
     virtual bool CopyCellMembersFrom(const KomaObject& other);
+    // The copy the design's history keeps: the whole model as CopyModelFrom
+    // copies it, and what the object holds besides (its place and size on
+    // the canvas, whether it shows, its focus, stacking stamp and index),
+    // so that an object made from it cannot be told from the original. The
+    // owner stays and the form is the other's (the history maps it). False
+    // for another kind.
+    virtual bool CopyWholeStateFrom(const KomaObject& other);
 
     // --- drawing ----------------------------------------------------------------
     // The object laid out into its draw elements, back to front, in screen
@@ -216,6 +223,9 @@ protected:
 
     // Copies the shared model properties (not the canvas place).
     void CopySharedModelFrom(const KomaObject& other);
+    // Copies what lies beside the model: the place and size on the canvas,
+    // drawing, showing, focus, stacking stamp and index; no event, no layout.
+    void CopyCanvasStateFrom(const KomaObject& other);
     // What every kind that may stand in a cell copies of the shared model:
     // X, Y, the related table, width and height.
     void CopyCellPlaceFrom(const KomaObject& other);

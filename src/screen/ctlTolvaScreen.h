@@ -22,6 +22,7 @@
 #include "document/ObjectOwner.h"
 #include "document/ObjectTypes.h"
 #include "resfile/DesignText.h"
+#include "screen/DesignSnapshot.h"
 #include "screen/NameIndex.h"
 
 namespace tolva {
@@ -245,6 +246,18 @@ public:
     void ObjectMenusChanged(KomaObject& object) override;
     long long NextStackStamp(bool toFront) override;
 
+    // --- the design's history (ScreenSnapshot.cpp) -----------------------------
+    // The design as it stands. An object outside the scope keeps its image
+    // of `previous` when its place, size, name, number, form, showing and
+    // stacking are what the image holds.
+    DesignSnapshot TakeSnapshot(const DesignSnapshot* previous, const SnapshotScope& scope);
+    // Puts the design back exactly as the snapshot holds it: every object
+    // made again from its image, the form on show and the selection.
+    void RestoreSnapshot(const DesignSnapshot& snapshot);
+    // The form on show and its embedded objects (and their cells' tables):
+    // what a step on the canvas, in the inspector or in a dialog touches.
+    std::vector<const KomaObject*> CurrentFormObjects() const;
+
     // The number of objects the name index holds: every object of the
     // arrays, once.
     std::size_t IndexedObjectCount() const { return names_.Size(); }
@@ -321,6 +334,8 @@ protected:
 
     long long frontStamp_ = 0;
     long long backStamp_ = 0;
+    // What the history's images talk to.
+    std::shared_ptr<ObjectOwner> imageOwner_;
 };
 
 }  // namespace tolva

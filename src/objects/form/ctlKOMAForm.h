@@ -79,6 +79,9 @@ public:
     // Every reference to `object` becomes `replacement` (which may be none),
     // whatever the names say: the screen's guard before an object goes.
     void ReplaceReference(const KomaObject* object, KomaObject* replacement);
+    // The references alone set again, the list of names left as it is: the
+    // design's history puts back the objects a form held.
+    void RestoreReferenceList(const std::vector<KomaObject*>& objects) { references_ = objects; }
 
     // --- menus -----------------------------------------------------------------
     struct MenuData {

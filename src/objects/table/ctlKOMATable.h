@@ -144,6 +144,9 @@ public:
     // The copy of a whole table: place, size, three flags and the style,
     // then the counts, sizes and cells, then every cell's object.
     bool CopyModelFrom(const KomaObject& other) override;
+    // Every member as it stands, and a copy of each cell's object of its
+    // own (TableWholeCopy.cpp).
+    bool CopyWholeStateFrom(const KomaObject& other) override;
     DrawElementList GetDrawElements() const override;
     // A right click offers "Set Bitmap..." and "Edit Table...".
     void MouseDown(int button, int shift, double x, double y) override;
