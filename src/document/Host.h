@@ -46,9 +46,24 @@ struct PopupEntry {
     std::string text;
 };
 
+// Told of the user's answers that may change the design, as they come: an
+// entry chosen in an object's popup menu, a dialog opened and closed. The
+// main window keeps its history of steps by them.
+class HostObserver {
+public:
+    virtual ~HostObserver() = default;
+    virtual void PopupChosen(const std::string& entryText) {}
+    virtual void DialogOpening(const std::string& dialogName) {}
+    virtual void DialogClosed(const std::string& dialogName, bool accepted) {}
+};
+
 class Host {
 public:
     virtual ~Host() = default;
+
+    // The observer of the answers, or none.
+    void SetObserver(HostObserver* observer) { observer_ = observer; }
+    HostObserver* Observer() const { return observer_; }
 
     // A message box. An empty title shows kApplicationTitle.
     virtual MessageAnswer MessageBox(const std::string& text, const std::string& title = "",
@@ -90,6 +105,9 @@ public:
     // The desktop's language as a Windows language id (1033 English,
     // 1031 German, 1041 Japanese, ...).
     virtual int LanguageId() = 0;
+
+private:
+    HostObserver* observer_ = nullptr;
 };
 
 }  // namespace tolva

@@ -133,12 +133,18 @@ std::optional<int> QtHost::PopupMenu(const std::string& title,
     }
     QAction* chosen = menu.exec(QCursor::pos());
     if (!chosen) return std::nullopt;
-    return chosen->data().toInt();
+    const int index = chosen->data().toInt();
+    if (Observer()) Observer()->PopupChosen(entries[static_cast<std::size_t>(index)].text);
+    return index;
 }
 
 bool QtHost::RunDialog(DialogModel& model) {
     const DialogRunner* runner = FindDialog(model.DialogName());
-    return runner && (*runner)(model, DialogParent());
+    if (!runner) return false;
+    if (Observer()) Observer()->DialogOpening(model.DialogName());
+    const bool accepted = (*runner)(model, DialogParent());
+    if (Observer()) Observer()->DialogClosed(model.DialogName(), accepted);
+    return accepted;
 }
 
 void QtHost::SetCursor(CursorShape shape) {

@@ -18,6 +18,8 @@
 #include "document/ObjectTypes.h"
 #include "document/RuntimeFailure.h"
 #include "document/StringTable.h"
+#include "screen/DesignHistory.h"
+#include "screen/DesignSteps.h"
 #include "screen/ctlTolvaScreen.h"
 #include "inspector/PropertyArray.h"
 #include "inspector/ValueLists.h"
@@ -73,11 +75,17 @@ frmMain::frmMain(Host& host, QWidget* parent) : QMainWindow(parent), host_(host)
     screen_ = std::make_unique<ctlTolvaScreen>(host_, logSink_);
     screen_->SetEvents(this);
     screen_->SetCanvasSize(kCanvasSize, kCanvasSize);
+    history_ = std::make_unique<DesignHistory>(*screen_);
+    steps_ = std::make_unique<DesignSteps>(*screen_, *history_);
     BuildControls();
     BuildMenus();
+    ctlScreen_->SetGestureHooks([this] { BeginStep(); }, [this] { EndStep(); });
+    host_.SetObserver(this);
+    FreshHistory();
 }
 
 frmMain::~frmMain() {
+    if (host_.Observer() == this) host_.SetObserver(nullptr);
     if (screen_) screen_->SetEvents(nullptr);
 }
 
@@ -207,6 +215,15 @@ void frmMain::BuildMenus() {
     edit->setObjectName("mnuEdit");
     AddMenuEntry(edit, "mnuEditDelete", "Delete", &frmMain::mnuEditDelete_Click);
     AddMenuEntry(edit, "mnuEditOptions", "Options", &frmMain::mnuEditOptions_Click);
+    edit->addSeparator();
+    mnuEditUndo_ = AddMenuEntry(edit, "mnuEditUndo", "Undo", &frmMain::mnuEditUndo_Click);
+    mnuEditUndo_->setShortcut(QKeySequence::Undo);
+    mnuEditRedo_ = AddMenuEntry(edit, "mnuEditRedo", "Redo", &frmMain::mnuEditRedo_Click);
+    mnuEditRedo_->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+                                QKeySequence(Qt::CTRL | Qt::Key_Y)});
+    // The shortcuts work wherever the window has the keyboard.
+    addAction(mnuEditUndo_);
+    addAction(mnuEditRedo_);
 
     QMenu* view = menuBar()->addMenu("View");
     view->setObjectName("mnuView");
@@ -329,7 +346,7 @@ void frmMain::ToolClick(int index) {
         screen.AllowDrawingOnObjects(false);
         tools_[kMenuTool - 1]->setChecked(false);
         tlbrObjects_->update();
-        screen.ShowMenuEditor();
+        AsStep([&] { screen.ShowMenuEditor(); });
     } else {
         screen.CreateObjectType(Tool(index).createObjectType);
         screen.AllowDrawing(true);
@@ -353,6 +370,7 @@ void frmMain::MouseMove(int, int, double, double) {
 void frmMain::MouseUp(int, int, double, double) { ResetToPointer(); }
 
 void frmMain::CreatedObject(const std::string& name, int objectType) {
+    steps_->Created(name);
     RefreshScreen();
     formsComboEnabled_ = false;
     objectsComboEnabled_ = false;
@@ -387,7 +405,8 @@ void frmMain::ChangedObject(const std::string& name, int objectType) {
     objectsComboEnabled_ = true;
 }
 
-void frmMain::DeletedObject(const std::string&, int objectType) {
+void frmMain::DeletedObject(const std::string& name, int objectType) {
+    steps_->Deleted(name);
     RefreshScreen();
     formsComboEnabled_ = false;
     objectsComboEnabled_ = false;
@@ -515,7 +534,7 @@ void frmMain::cmdDelete_Click() {
                              LoadResString(msg::ConfirmFormDeleteTitle), MessageButtons::YesNo);
         if (answer == MessageAnswer::No) return;
     }
-    screen.DeleteObject(selectedType, selectedName);
+    AsStep([&] { screen.DeleteObject(selectedType, selectedName); });
     if (screen.CurrentDesignForm().empty()) cmbObjects_->clear();
     designSaved_ = false;
 }
@@ -538,7 +557,22 @@ void frmMain::ctlPropView_PropertyChanged(const PropertyArray& values) {
     ctlTolvaScreen& screen = *screen_;
     const int selectedType = screen.SelectedObjectType();
     const std::string selectedName = screen.SelectedObjectName();
-    screen.NotifyObjectOfPropertyChange(selectedType, selectedName, values);
+    // A row the object took is a step, named by the first row that changed;
+    // a refused value changes no row and makes none.
+    PropertyArray before;
+    screen.GetObjectPropertiesList(before, selectedType, selectedName);
+    KomaObject* object = screen.SelectedObjectRef();
+    AsStep([&] {
+        screen.NotifyObjectOfPropertyChange(selectedType, selectedName, values);
+        if (!object || !screen.HoldsObject(object)) return;
+        PropertyArray after;
+        object->GetPropertyList(after);
+        for (int row = 1; row <= after.Rows(); ++row)
+            if (row > before.Rows() || after.Value(row).Text() != before.Value(row).Text()) {
+                steps_->Edited("Set " + after.Label(row) + " of " + selectedName);
+                break;
+            }
+    });
 }
 
 // --- menus ----------------------------------------------------------------------------
@@ -552,7 +586,7 @@ void frmMain::mnuEditDelete_Click() {
     ctlTolvaScreen& screen = *screen_;
     const int selectedType = screen.SelectedObjectType();
     const std::string selectedName = screen.SelectedObjectName();
-    screen.DeleteObject(selectedType, selectedName);
+    AsStep([&] { screen.DeleteObject(selectedType, selectedName); });
 }
 
 void frmMain::mnuEditOptions_Click() {

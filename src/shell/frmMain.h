@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "document/Host.h"
 #include "screen/ScreenEvents.h"
 #include "shell/frmLog.h"
 
@@ -22,6 +23,8 @@ class QToolButton;
 namespace tolva {
 
 class CanvasWidget;
+class DesignHistory;
+class DesignSteps;
 class frmBusy;
 class PropertyArray;
 class ctlPropertyView;
@@ -29,7 +32,7 @@ class Host;
 class SortedComboBox;
 class ctlTolvaScreen;
 
-class frmMain : public QMainWindow, public ScreenEvents {
+class frmMain : public QMainWindow, public ScreenEvents, public HostObserver {
     Q_OBJECT
 public:
     // The host serves every desktop service of the window and of the screen.
@@ -62,6 +65,14 @@ public:
 
     // Hands a log line to the log window, which drops it.
     void AddLogLine(const std::string& line);
+
+    // --- the history of steps (frmMainHistory.cpp) -----------------------------
+    DesignHistory& History() { return *history_; }
+    QAction* UndoAction() const { return mnuEditUndo_; }
+    QAction* RedoAction() const { return mnuEditRedo_; }
+    void PopupChosen(const std::string& entryText) override;
+    void DialogOpening(const std::string& dialogName) override;
+    void DialogClosed(const std::string& dialogName, bool accepted) override;
 
     // --- toolbar -----------------------------------------------------------
     // A click on toolbar button index (1 to 17).
@@ -132,6 +143,31 @@ private:
     void mnuExit_Click();
     void mnuEditDelete_Click();
     void mnuEditOptions_Click();
+    void mnuEditUndo_Click();
+    void mnuEditRedo_Click();
+
+    // A step of the history begins and ends around a user's change; the
+    // end keeps it (or drops it when nothing changed) and shows the Undo and
+    // Redo entries as they now stand.
+    void BeginStep();
+    void EndStep();
+    // Runs the change as one step, ended even when the change throws.
+    template <class Change>
+    void AsStep(Change change) {
+        BeginStep();
+        try {
+            change();
+        } catch (...) {
+            EndStep();
+            throw;
+        }
+        EndStep();
+    }
+    // A fresh history: after New and Open.
+    void FreshHistory();
+    void UpdateUndoActions();
+    // The window shows the design as Undo or Redo put it back.
+    void ShowRestoredDesign();
     void mnuViewResFile_Click();
     void mnuViewHeaderFile_Click();
     void mnuViewObjectList_Click();
@@ -173,6 +209,11 @@ private:
     QPushButton* cmdViewResFile_ = nullptr;
     QPushButton* cmdViewHeaderFile_ = nullptr;
     QLabel* Label1_ = nullptr;
+    QAction* mnuEditUndo_ = nullptr;
+    QAction* mnuEditRedo_ = nullptr;
+
+    std::unique_ptr<DesignHistory> history_;
+    std::unique_ptr<DesignSteps> steps_;
 };
 
 // The address "Send Comments / Report Bugs" writes to.

@@ -14,6 +14,8 @@
 #include "shell/SortedComboBox.h"
 #include "shell/frmMain.h"
 
+#include "screen/DesignHistory.h"
+
 #include <QComboBox>
 
 namespace tolva {
@@ -68,6 +70,7 @@ void frmMain::mnuFileNew_Click() {
     designSaved_ = true;
     cmbForms_->clear();
     cmbObjects_->clear();
+    FreshHistory();
     RefreshScreen();
 }
 
@@ -103,6 +106,7 @@ void frmMain::mnuFileOpen_Click() {
             cmbObjects_->clear();
             ClearPropertiesList();
             host_.SetCursor(CursorShape::Arrow);
+            FreshHistory();
             RefreshScreen();
             return;
         }
@@ -111,6 +115,7 @@ void frmMain::mnuFileOpen_Click() {
         host_.SetCursor(CursorShape::Arrow);
         setEnabled(true);
         designSaved_ = true;
+        FreshHistory();
         RefreshScreen();
     } catch (const RuntimeFailure&) {
         handler();
@@ -130,6 +135,7 @@ void frmMain::mnuFileSave_Click() {
     SaveHeaderFile(*screen_, HeaderFilePath);
     ShowBitmapWarningBox();
     designSaved_ = true;
+    history_->MarkSaved();
 }
 
 // Two choosers, the resource file's and the header's. A cancel of the first
@@ -149,6 +155,7 @@ void frmMain::mnuFileSaveAs_Click() {
 
         ShowBitmapWarningBox();
         designSaved_ = true;
+        history_->MarkSaved();
     } catch (const RuntimeFailure&) {
         // Nothing is said; what was written stays.
     }

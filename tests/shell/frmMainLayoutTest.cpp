@@ -1,6 +1,7 @@
 // The main window's title, controls, toolbar and menus.
 #include <QFontMetrics>
 #include <QLabel>
+#include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -134,6 +135,7 @@ TEST_F(Layout, EveryToolHasAPictureOfItsOwn) {
 struct MenuEntry {
     const char* name;
     const char* text;
+    const char* shortcuts = "";  // as QKeySequence::listToString gives them
 };
 
 void ExpectMenu(QMenuBar* bar, const char* title, std::vector<MenuEntry> entries) {
@@ -150,7 +152,9 @@ void ExpectMenu(QMenuBar* bar, const char* title, std::vector<MenuEntry> entries
     for (std::size_t i = 0; i < entries.size(); ++i) {
         EXPECT_EQ(actions[i]->objectName(), QString::fromLatin1(entries[i].name));
         EXPECT_EQ(actions[i]->text(), QString::fromLatin1(entries[i].text));
-        EXPECT_TRUE(actions[i]->shortcut().isEmpty()) << entries[i].name;
+        EXPECT_EQ(QKeySequence::listToString(actions[i]->shortcuts()),
+                  QString::fromLatin1(entries[i].shortcuts))
+            << entries[i].name;
     }
 }
 
@@ -162,7 +166,12 @@ TEST_F(Layout, MenusHoldTheirEntriesInOrder) {
     ExpectMenu(bar, "File",
                {{"mnuFileNew", "New"}, {"mnuFileOpen", "Open..."}, {"mnuFileSave", "Save"},
                 {"mnuFileSaveAs", "Save As..."}, {"mnuExit", "Exit"}});
-    ExpectMenu(bar, "Edit", {{"mnuEditDelete", "Delete"}, {"mnuEditOptions", "Options"}});
+    // Undo and Redo come after the editor's own two entries.
+    ExpectMenu(bar, "Edit",
+               {{"mnuEditDelete", "Delete"},
+                {"mnuEditOptions", "Options"},
+                {"mnuEditUndo", "Undo", "Ctrl+Z"},
+                {"mnuEditRedo", "Redo", "Ctrl+Shift+Z; Ctrl+Y"}});
     ExpectMenu(bar, "View",
                {{"mnuViewResFile", "Resource File"}, {"mnuViewHeaderFile", "Header File"},
                 {"mnuViewObjectList", "Object List"}, {"mnuViewLog", "Log Window"}});
@@ -178,6 +187,9 @@ TEST_F(Layout, OnlyObjectListIsDisabled) {
         EXPECT_TRUE(Find<QAction>(name)->isEnabled()) << name;
     }
     EXPECT_FALSE(Find<QAction>("mnuViewObjectList")->isEnabled());
+    // Nothing to undo or redo yet.
+    EXPECT_FALSE(Find<QAction>("mnuEditUndo")->isEnabled());
+    EXPECT_FALSE(Find<QAction>("mnuEditRedo")->isEnabled());
 }
 
 TEST_F(Layout, ObjectListStaysDisabledAfterWork) {

@@ -84,6 +84,9 @@ std::optional<int> ScriptedHost::PopupMenu(const std::string& title,
     if (popupAnswers.empty()) return std::nullopt;
     auto answer = popupAnswers.front();
     popupAnswers.pop_front();
+    // Told as the desktop host tells it: an entry was chosen.
+    if (answer && *answer >= 0 && static_cast<std::size_t>(*answer) < entries.size() && Observer())
+        Observer()->PopupChosen(entries[static_cast<std::size_t>(*answer)].text);
     return answer;
 }
 
@@ -94,7 +97,11 @@ bool ScriptedHost::RunDialog(DialogModel& model) {
     if (dialogAnswers.empty()) return false;
     auto answer = std::move(dialogAnswers.front());
     dialogAnswers.pop_front();
-    return answer(model);
+    // Told as the desktop host tells it: the dialog opened and closed.
+    if (Observer()) Observer()->DialogOpening(model.DialogName());
+    const bool accepted = answer(model);
+    if (Observer()) Observer()->DialogClosed(model.DialogName(), accepted);
+    return accepted;
 }
 void ScriptedHost::OpenInViewer(const std::string& path) { viewerOpened.push_back(path); }
 void ScriptedHost::OpenMail(const std::string& address, const std::string&) {

@@ -108,7 +108,9 @@ void CanvasWidget::mousePressEvent(QMouseEvent* event) {
         captureButton_ = Qt::NoButton;
         capture_ = CanvasHit{};
         RunGuarded([&] { Deliver(target, Phase::Up, lost, shift, at); });
+        RunGuarded([&] { EndGesture(); });
     }
+    RunGuarded([&] { BeginGesture(); });
     RunGuarded([&] {
         capture_ = screen_.HitTest(at.x(), at.y());
         captured_ = true;
@@ -131,6 +133,7 @@ void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
         captureButton_ = Qt::NoButton;
         capture_ = CanvasHit{};
         RunGuarded([&] { Deliver(target, Phase::Up, lost, shift, at); });
+        RunGuarded([&] { EndGesture(); });
         update();
     }
     RunGuarded([&] {
@@ -154,6 +157,7 @@ void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
     captureButton_ = Qt::NoButton;
     capture_ = CanvasHit{};
     RunGuarded([&] { Deliver(target, Phase::Up, button, shift, at); });
+    RunGuarded([&] { EndGesture(); });
     update();
 }
 
@@ -167,12 +171,14 @@ void CanvasWidget::keyPressEvent(QKeyEvent* event) {
     // alone. The key reaches the screen only while it has the keyboard
     // focus.
     const int shift = ShiftCode(event->modifiers());
+    RunGuarded([&] { BeginGesture(); });
     RunGuarded([&] {
         KomaObject* selected = screen_.SelectedObjectRef();
         if (selected && screen_.SelectedObjectType() != type::None &&
             screen_.HoldsObject(selected) && selected->Visible())
             selected->KeyDown(46, shift);
     });
+    RunGuarded([&] { EndGesture(); });
     update();
 }
 

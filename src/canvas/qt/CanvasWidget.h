@@ -7,6 +7,7 @@
 // down go to whatever lies under the mouse. One factor maps screen units to
 // the desktop's pixels: 15 units to a pixel.
 #include <QWidget>
+#include <functional>
 
 #include "canvas/CanvasHit.h"
 #include "canvas/qt/ScreenPainter.h"
@@ -31,6 +32,14 @@ public:
     static int ButtonCode(Qt::MouseButtons buttons);
     static int ShiftCode(Qt::KeyboardModifiers modifiers);
 
+    // Called as a gesture on the screen begins (a press, the Delete key)
+    // and after it has ended (the release, lost or not, the key handled):
+    // the main window makes a step of its history of it.
+    void SetGestureHooks(std::function<void()> begin, std::function<void()> end) {
+        gestureBegins_ = std::move(begin);
+        gestureEnded_ = std::move(end);
+    }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -46,6 +55,14 @@ private:
 
     ctlTolvaScreen& screen_;
     ScreenPainter painter_{kUnitsPerPixel};
+
+    void BeginGesture() {
+        if (gestureBegins_) gestureBegins_();
+    }
+    void EndGesture() {
+        if (gestureEnded_) gestureEnded_();
+    }
+    std::function<void()> gestureBegins_, gestureEnded_;
 
     // The element that took the press, while its button is down.
     bool captured_ = false;
