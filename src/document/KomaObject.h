@@ -98,6 +98,12 @@ public:
     int iIndex() const { return index_; }
     void iIndex(int index) { index_ = index; }
 
+    // Its place in its type's array of the screen, from 1; 0 while in none.
+    // Set by the screen as it takes the object in; an object keeps its place
+    // for good, since a deletion moves models, not objects.
+    int ArrayPlace() const { return arrayPlace_; }
+    void ArrayPlace(int place) { arrayPlace_ = place; }
+
     // --- place on the canvas, screen units ----------------------------------
     double Left() const { return left_; }
     void Left(double value) { left_ = value; }
@@ -258,6 +264,7 @@ private:
     int height_ = 0;
     ctlKOMAForm* parentForm_ = nullptr;
     int index_ = 0;
+    int arrayPlace_ = 0;
 
     double left_ = 0;
     double top_ = 0;

@@ -61,16 +61,22 @@ std::string DesignHistory::RedoText() const {
 
 bool DesignHistory::Undo() {
     if (!CanUndo()) return false;
-    --position_;
-    screen_.RestoreSnapshot(states_[position_].snapshot);
+    MoveTo(position_ - 1);
     return true;
 }
 
 bool DesignHistory::Redo() {
     if (!CanRedo()) return false;
-    ++position_;
-    screen_.RestoreSnapshot(states_[position_].snapshot);
+    MoveTo(position_ + 1);
     return true;
+}
+
+void DesignHistory::MoveTo(std::size_t position) {
+    // The design as it stands, so that the objects it shares with the step
+    // put back stay where they are.
+    const DesignSnapshot current = screen_.TakeSnapshot(&states_[position_].snapshot, SnapshotScope{});
+    position_ = position;
+    screen_.RestoreSnapshot(states_[position_].snapshot, &current);
 }
 
 std::size_t DesignHistory::ImageCount() const {

@@ -58,6 +58,8 @@ public:
     std::size_t ImageCount() const;
 
 private:
+    void MoveTo(std::size_t position);
+
     struct State {
         std::string name;  // the step that led here
         DesignSnapshot snapshot;

@@ -34,6 +34,9 @@ struct ObjectImage {
 
 struct DesignSnapshot {
     std::array<std::vector<std::shared_ptr<const ObjectImage>>, type::Count> arrays;
+    // Every object's ID, apart from its image: a deletion or a save gives
+    // the IDs afresh, and an image is not made again for a new ID alone.
+    std::array<std::vector<int>, type::Count> ids;
     int numMenus = 0;
     long long frontStamp = 0;
     long long backStamp = 0;
@@ -50,7 +53,7 @@ struct DesignSnapshot {
 };
 
 // What a step may have touched beside the objects whose place, size,
-// name, number, form or stacking changed (those are found by comparing):
+// name, index, form or stacking changed (those are found by comparing):
 // everything, or the objects listed.
 struct SnapshotScope {
     bool everything = false;

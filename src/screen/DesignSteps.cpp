@@ -56,7 +56,9 @@ void DesignSteps::DialogClosed(bool accepted, bool keepsChangesOnCancel, const s
 bool DesignSteps::End() {
     if (depth_ == 0 || --depth_ > 0) return false;
     if (!deleted_.empty()) {
-        history_.CommitStep("Delete " + deleted_, true);
+        // The object that takes the gap changes its name and index: the
+        // snapshot finds it without being told.
+        history_.CommitStep("Delete " + deleted_);
         return true;
     }
     if (!created_.empty()) {

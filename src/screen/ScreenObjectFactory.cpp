@@ -53,6 +53,7 @@ KomaObject* ctlTolvaScreen::AddToArray(int screenType, std::unique_ptr<KomaObjec
     object->SetOwner(this);
     arrays_[screenType].push_back(std::move(made));
     object->iIndex(Count(screenType));
+    object->ArrayPlace(Count(screenType));
     names_.Add(object->KOMAName(), screenType, Count(screenType), object);
     if (screenType == type::Form) menuNamesValid_ = false;
     return object;

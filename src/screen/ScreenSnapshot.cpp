@@ -6,7 +6,7 @@
 // not touch the object: it lies outside the step's scope and everything
 // the screen itself changes of objects (place, size, name, number, form,
 // showing, focus, stacking) is as the image holds it.
-#include <unordered_map>
+#include <unordered_set>
 
 #include "document/Host.h"
 #include "document/LogSink.h"
@@ -41,16 +41,16 @@ private:
     LogSink& log_;
 };
 
-using PlaceMap = std::unordered_map<const KomaObject*, ObjectPlace>;
-
-ObjectPlace PlaceOf(const PlaceMap& places, const KomaObject* object) {
-    if (!object) return {};
-    auto it = places.find(object);
-    return it == places.end() ? ObjectPlace{} : it->second;
+// An object of the screen's arrays at its place; anything else (no object,
+// one the screen does not hold) has none.
+ObjectPlace PlaceOf(const ctlTolvaScreen& screen, const KomaObject* object) {
+    if (!object || object->ArrayPlace() < 1) return {};
+    const ObjectPlace place{object->ScreenType(), object->ArrayPlace()};
+    return screen.ObjectAt(place.type, place.index) == object ? place : ObjectPlace{};
 }
 
-int FormIndexOf(const PlaceMap& places, const KomaObject* form) {
-    const ObjectPlace place = PlaceOf(places, form);
+int FormIndexOf(const ctlTolvaScreen& screen, const KomaObject* form) {
+    const ObjectPlace place = PlaceOf(screen, form);
     return place.type == type::Form ? place.index : 0;
 }
 
@@ -60,8 +60,7 @@ bool FrameUnchanged(const KomaObject& object, const ObjectImage& image, int pare
                     const std::vector<ObjectPlace>& references) {
     const KomaObject& copy = *image.copy;
     return image.parentForm == parentForm && image.references == references &&
-           copy.KOMAName() == object.KOMAName() && copy.KOMAObjectID() == object.KOMAObjectID() &&
-           copy.KOMARelatedTableID() == object.KOMARelatedTableID() &&
+           copy.KOMAName() == object.KOMAName() && copy.KOMARelatedTableID() == object.KOMARelatedTableID() &&
            copy.KOMABoundsX() == object.KOMABoundsX() && copy.KOMABoundsY() == object.KOMABoundsY() &&
            copy.KOMAWidth() == object.KOMAWidth() && copy.KOMAHeight() == object.KOMAHeight() &&
            copy.Left() == object.Left() && copy.Top() == object.Top() &&
@@ -88,24 +87,21 @@ DesignSnapshot ctlTolvaScreen::TakeSnapshot(const DesignSnapshot* previous,
     DesignSnapshot snapshot;
     snapshot.imageOwner = imageOwner_;
 
-    PlaceMap places;
-    for (int t = 0; t < type::Count; ++t)
-        for (std::size_t i = 0; i < arrays_[t].size(); ++i)
-            places[arrays_[t][i].get()] = ObjectPlace{t, static_cast<int>(i + 1)};
-    std::unordered_map<const KomaObject*, bool> touched;
-    for (const KomaObject* object : scope.objects) touched[object] = true;
+    std::unordered_set<const KomaObject*> touched(scope.objects.begin(), scope.objects.end());
 
     for (int t = 0; t < type::Count; ++t) {
         auto& images = snapshot.arrays[t];
         images.reserve(arrays_[t].size());
+        snapshot.ids[t].reserve(arrays_[t].size());
         for (std::size_t i = 0; i < arrays_[t].size(); ++i) {
             const KomaObject& object = *arrays_[t][i];
-            const int parentForm = FormIndexOf(places, object.ParentForm());
+            snapshot.ids[t].push_back(object.KOMAObjectID());
+            const int parentForm = FormIndexOf(*this, object.ParentForm());
             std::vector<ObjectPlace> references;
             if (t == type::Form)
                 for (KomaObject* embedded :
                      static_cast<const ctlKOMAForm&>(object).GetEmbeddedObjectReferenceList())
-                    references.push_back(PlaceOf(places, embedded));
+                    references.push_back(PlaceOf(*this, embedded));
 
             if (previous && !scope.everything && !touched.count(&object) &&
                 i < previous->arrays[t].size()) {
@@ -135,29 +131,69 @@ DesignSnapshot ctlTolvaScreen::TakeSnapshot(const DesignSnapshot* previous,
     snapshot.frontStamp = frontStamp_;
     snapshot.backStamp = backStamp_;
     snapshot.currentDesignForm = currentDesignForm_;
-    snapshot.currentForm = FormIndexOf(places, currentFormRef_);
+    snapshot.currentForm = FormIndexOf(*this, currentFormRef_);
     snapshot.selectedType = selectedObjectType_;
     snapshot.selectedName = selectedObjectName_;
-    snapshot.selected = PlaceOf(places, selectedObjectRef_);
+    snapshot.selected = PlaceOf(*this, selectedObjectRef_);
     return snapshot;
 }
 
-void ctlTolvaScreen::RestoreSnapshot(const DesignSnapshot& snapshot) {
+void ctlTolvaScreen::RestoreSnapshot(const DesignSnapshot& snapshot,
+                                     const DesignSnapshot* current) {
     ShowNodes(false, true);
-    UnloadAll();
+    if (!imageOwner_) imageOwner_ = std::make_shared<ImageOwner>(host_, log_);
 
-    // Every object again, in its place, from its image.
-    for (int t = 0; t < type::Count; ++t)
-        for (const auto& image : snapshot.arrays[t]) {
-            std::unique_ptr<KomaObject> made = MakeObject(t);
-            if (!made) continue;
+    selectedObjectRef_ = nullptr;
+    currentFormRef_ = nullptr;
+    // An object made again from its image, owned by the screen.
+    auto remake = [&](int t, std::size_t i) {
+        std::unique_ptr<KomaObject> made = MakeObject(t);
+        if (made) {
             made->SetOwner(imageOwner_.get());
-            made->CopyWholeStateFrom(*image->copy);
-            const int index = made->iIndex();
-            KomaObject* object = AddToArray(t, std::move(made));
-            // The index an object keeps after a deletion need not be its place.
-            object->iIndex(index);
+            made->CopyWholeStateFrom(*snapshot.arrays[t][i]->copy);
         }
+        return made;
+    };
+    for (int t = 0; t < type::Count; ++t) {
+        const auto& images = snapshot.arrays[t];
+        auto& array = arrays_[t];
+        if (!current) {
+            for (const auto& object : array) names_.Remove(object->KOMAName(), object.get());
+            array.clear();
+        }
+        // The places both have: an object whose image the design as it
+        // stands shares stays, any other is made again in its place.
+        const std::size_t both = std::min(array.size(), images.size());
+        for (std::size_t i = 0; i < both; ++i) {
+            if (current && i < current->arrays[t].size() && current->arrays[t][i] == images[i])
+                continue;
+            std::unique_ptr<KomaObject> made = remake(t, i);
+            if (!made) continue;
+            names_.Remove(array[i]->KOMAName(), array[i].get());
+            const int index = made->iIndex();
+            made->SetOwner(this);
+            made->ArrayPlace(static_cast<int>(i + 1));
+            names_.Add(made->KOMAName(), t, static_cast<int>(i + 1), made.get());
+            array[i] = std::move(made);
+            array[i]->iIndex(index);
+        }
+        // Places the design has no more, then the ones it gains.
+        while (array.size() > images.size()) {
+            names_.Remove(array.back()->KOMAName(), array.back().get());
+            array.pop_back();
+        }
+        for (std::size_t i = array.size(); i < images.size(); ++i) {
+            std::unique_ptr<KomaObject> made = remake(t, i);
+            if (!made) break;
+            const int index = made->iIndex();
+            // The index an object keeps after a deletion need not be its place.
+            AddToArray(t, std::move(made))->iIndex(index);
+        }
+        // The IDs given since the images were made, as the design gave them
+        // (a table's cells follow their table's).
+        for (std::size_t i = 0; i < array.size() && i < snapshot.ids[t].size(); ++i)
+            if (snapshot.ids[t][i] != array[i]->KOMAObjectID()) array[i]->KOMAObjectID(snapshot.ids[t][i]);
+    }
     // Then the pointers between them.
     for (int t = 0; t < type::Count; ++t)
         for (std::size_t i = 0; i < snapshot.arrays[t].size() && i < arrays_[t].size(); ++i) {

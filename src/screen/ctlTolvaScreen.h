@@ -252,8 +252,10 @@ public:
     // stacking are what the image holds.
     DesignSnapshot TakeSnapshot(const DesignSnapshot* previous, const SnapshotScope& scope);
     // Puts the design back exactly as the snapshot holds it: every object
-    // made again from its image, the form on show and the selection.
-    void RestoreSnapshot(const DesignSnapshot& snapshot);
+    // made again from its image, the form on show and the selection. With
+    // `current`, a snapshot of the design as it stands, an object whose
+    // image the two share stays as it is instead.
+    void RestoreSnapshot(const DesignSnapshot& snapshot, const DesignSnapshot* current = nullptr);
     // The form on show and its embedded objects (and their cells' tables):
     // what a step on the canvas, in the inspector or in a dialog touches.
     std::vector<const KomaObject*> CurrentFormObjects() const;

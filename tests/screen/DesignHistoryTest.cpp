@@ -132,14 +132,11 @@ TEST_F(DesignHistoryTest, DrawingAnObject) {
 TEST_F(DesignHistoryTest, DeletingAnObjectAFormAndATable) {
     Load("render/every_kind.txt");
     // A button of the first form: the last button moves into its place.
-    CheckStep("Delete BUTTON_0_0", [&] { ASSERT_TRUE(screen.DeleteObject(type::Button, "BUTTON_0_0")); },
-              true);
+    CheckStep("Delete BUTTON_0_0", [&] { ASSERT_TRUE(screen.DeleteObject(type::Button, "BUTTON_0_0")); });
     // A form and everything on it.
-    CheckStep("Delete FORM_CHOICES",
-              [&] { ASSERT_TRUE(screen.DeleteObject(type::Form, "FORM_CHOICES")); }, true);
+    CheckStep("Delete FORM_CHOICES", [&] { ASSERT_TRUE(screen.DeleteObject(type::Form, "FORM_CHOICES")); });
     // A table with the objects in its cells.
-    CheckStep("Delete TABLE_FRUIT", [&] { ASSERT_TRUE(screen.DeleteObject(type::Table, "TABLE_FRUIT")); },
-              true);
+    CheckStep("Delete TABLE_FRUIT", [&] { ASSERT_TRUE(screen.DeleteObject(type::Table, "TABLE_FRUIT")); });
 }
 
 TEST_F(DesignHistoryTest, MovingAndResizingByMouse) {
@@ -273,10 +270,7 @@ TEST_F(DesignHistoryTest, FiveHundredRandomStepsUndoneAndRedone) {
         bool everything = false;
         switch (pick(6)) {
             case 0: Draw(kinds[pick(11)], pick(120), 16 + pick(100), 10 + pick(30), 10 + pick(20)); break;
-            case 1:
-                screen.DeleteObject(targetType, targetName);
-                everything = true;
-                break;
+            case 1: screen.DeleteObject(targetType, targetName); break;
             case 2: screen.MoveObject(targetType, targetName, At(pick(130)), At(16 + pick(120))); break;
             case 3: SetRow(targetType, targetName, 2 + pick(2), IntToText(pick(150))); break;
             case 4: SetRow(targetType, targetName, 1, "NAME_" + IntToText(steps)); break;

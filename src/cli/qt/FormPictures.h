@@ -44,12 +44,12 @@ public:
 private:
     ctlTolvaScreen& screen_;
     int scale_;
-    std::vector<std::vector<class KomaObject*>> objects_;
     std::unique_ptr<ScreenPainter> painter_;
     // The device screen painted on, one for every form: its paint engine
     // is made once.
     struct Canvas;
     std::unique_ptr<Canvas> canvas_;
+    std::vector<std::vector<class KomaObject*>> objects_;
 };
 
 // The file a form's picture goes to inside the folder: the form's name with
