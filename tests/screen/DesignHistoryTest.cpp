@@ -9,6 +9,9 @@
 
 #include "document/Numbers.h"
 #include "inspector/PropertyArray.h"
+#include "objects/checkbox/CheckboxRelations.h"
+#include "objects/list/ListEditing.h"
+#include "objects/table/TableEditing.h"
 #include "objects/table/ctlKOMATable.h"
 #include "screen/DesignHistory.h"
 #include "screen/ScreenFiles.h"
@@ -60,10 +63,27 @@ protected:
                 for (const DrawElement& e : object.GetDrawElements())
                     out += "  " + e.name + " " + std::to_string(e.rect.left) + " " +
                            std::to_string(e.rect.width) + " " + e.text + "\n";
-                if (t == type::Form)
-                    for (KomaObject* embedded :
-                         static_cast<ctlKOMAForm&>(object).GetEmbeddedObjectReferenceList())
+                if (t == type::Form) {
+                    auto& form = static_cast<ctlKOMAForm&>(object);
+                    for (KomaObject* embedded : form.GetEmbeddedObjectReferenceList())
                         out += "  holds " + (embedded ? embedded->KOMAName() : "-") + "\n";
+                    // The related check boxes and lists, which the file
+                    // writes in its own way.
+                    auto flags = [](const std::vector<bool>& linked) {
+                        std::string text;
+                        for (bool flag : linked) text += flag ? '1' : '0';
+                        return text;
+                    };
+                    for (const auto& row : form.RelatedCheckboxes())
+                        out += "  checkbox " + row.name + " " + flags(row.linked) + "\n";
+                    for (const auto& row : form.RelatedLists())
+                        out += "  list " + row.name + " " + flags(row.linked) + "\n";
+                    for (const auto& menu : form.Menus()) {
+                        out += "  menu " + menu.name;
+                        for (const auto& item : menu.items) out += " " + item;
+                        out += "\n";
+                    }
+                }
             }
         return out;
     }
@@ -85,16 +105,16 @@ protected:
         step();
         history.CommitStep(name, everything);
         const std::string filesAfter = Files(), stateAfter = State();
-        EXPECT_NE(filesAfter + stateAfter, filesBefore + stateBefore) << name << ": no change";
+        EXPECT_TRUE(filesAfter + stateAfter != filesBefore + stateBefore) << name << ": no change";
         ASSERT_TRUE(history.CanUndo());
         EXPECT_EQ(history.UndoText(), "Undo " + name);
         ASSERT_TRUE(history.Undo());
-        EXPECT_EQ(Files(), filesBefore) << name;
-        EXPECT_EQ(State(), stateBefore) << name;
+        EXPECT_TRUE(Files() == filesBefore) << name << ": files after undo";
+        EXPECT_TRUE(State() == stateBefore) << name << ": state after undo";
         EXPECT_EQ(history.RedoText(), "Redo " + name);
         ASSERT_TRUE(history.Redo());
-        EXPECT_EQ(Files(), filesAfter) << name;
-        EXPECT_EQ(State(), stateAfter) << name;
+        EXPECT_TRUE(Files() == filesAfter) << name << ": files after redo";
+        EXPECT_TRUE(State() == stateAfter) << name << ": state after redo";
     }
 
     bool SetRow(int screenType, const std::string& name, int row, const std::string& value) {
@@ -166,6 +186,58 @@ TEST_F(DesignHistoryTest, AMenuChange) {
     const std::string form = screen.CurrentDesignForm();
     CheckStep("Edit Menus of " + form, [&] {
         screen.UpdateMenus({{"Open", "Close"}, {"Help"}}, {"MENU_FILE", "MENU_HELP"});
+    });
+}
+
+// Each dialog's OK from its object's popup menu, and the Table Editor's
+// immediate operations kept after its Cancel.
+TEST_F(DesignHistoryTest, TheDialogsOfTheObjects) {
+    Load("render/every_kind.txt");
+    auto show = [&](const char* form) {
+        screen.HideForm(screen.CurrentDesignForm());
+        ASSERT_TRUE(screen.ShowForm(form));
+    };
+    auto find = [&](int screenType, const std::string& name) -> KomaObject* {
+        for (int i = 1; i <= screen.Count(screenType); ++i)
+            if (Obj(screenType, i)->KOMAName() == name) return Obj(screenType, i);
+        return nullptr;
+    };
+    show("FORM_LISTS");
+    CheckStep("Edit List PLAIN", [&] {
+        host.popupAnswers = {0};
+        host.dialogAnswers.push_back([](DialogModel& model) {
+            auto& edit = dynamic_cast<ListEditing&>(model);
+            edit.Add("Five");
+            return edit.Accept("5");
+        });
+        find(type::List, "PLAIN")->MouseDown(kRightButton, 0, 3, 3);
+        ASSERT_EQ(host.dialogs.back(), "frmList");
+    });
+    show("FORM_SETTINGS");
+    CheckStep("Edit Checkboxes SOUND", [&] {
+        host.popupAnswers = {4};
+        host.dialogAnswers.push_back([](DialogModel& model) {
+            auto& relations = dynamic_cast<CheckboxRelations&>(model);
+            const std::vector<bool> ticks = relations.OtherTicks();
+            if (ticks.empty()) return false;
+            relations.Tick(0, !ticks[0]);
+            return true;
+        });
+        find(type::Checkbox, "SOUND")->MouseDown(kRightButton, 0, 5, 5);
+        ASSERT_EQ(host.dialogs.back(), "frmCheckbox");
+    });
+    show("FORM_TABLE");
+    CheckStep("Edit Table TABLE_FRUIT", [&] {
+        host.popupAnswers = {1};
+        host.dialogAnswers.push_back([](DialogModel& model) {
+            auto& edit = dynamic_cast<TableEditing&>(model);
+            edit.SelectTableCell(1, 1);
+            edit.InsertEditorRow(1);
+            // Cancel: the row stays in the table.
+            return false;
+        });
+        find(type::Table, "TABLE_FRUIT")->MouseDown(kRightButton, 0, 5, 5);
+        ASSERT_EQ(host.dialogs.back(), "frmTable");
     });
 }
 
