@@ -3,7 +3,7 @@
 # Safe to run again: it does nothing when all are there.
 set -euo pipefail
 
-packages=(g++ cmake ninja-build qt6-base-dev libgl-dev libgtest-dev desktop-file-utils)
+packages=(g++ cmake ninja-build qt6-base-dev libgl-dev libgtest-dev desktop-file-utils zlib1g-dev)
 if [ "${1:-}" = "--with-display" ]; then
   packages+=(libxkbcommon-x11-0 libxcb-cursor0)
 fi

@@ -1,6 +1,5 @@
 #include "cli/qt/FormPictures.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QPainter>
 #include <filesystem>
@@ -8,6 +7,7 @@
 #include <system_error>
 
 #include "canvas/qt/ScreenPainter.h"
+#include "cli/GreyPng.h"
 #include "objects/form/ctlKOMAForm.h"
 #include "screen/ctlTolvaScreen.h"
 
@@ -16,10 +16,6 @@ namespace tolva {
 namespace {
 
 constexpr int kDeviceSide = 160;
-
-// zlib's level 1 of 9: a form's picture is mostly runs of one grey, which
-// the fastest level packs nearly as small as the slowest.
-constexpr int kPngQuality = 85;
 
 }  // namespace
 
@@ -59,11 +55,8 @@ std::string FormPictureMaker::Png(int formNumber) {
     if (scale_ != 1)
         image = image.scaled(kDeviceSide * scale_, kDeviceSide * scale_, Qt::IgnoreAspectRatio,
                              Qt::FastTransformation);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    if (!image.save(&buffer, "PNG", kPngQuality)) return {};
-    return bytes.toStdString();
+    return GreyPng(image.constBits(), image.width(), image.height(),
+                   static_cast<int>(image.bytesPerLine()));
 }
 
 std::string FormPictureFileName(const std::string& formName) {
