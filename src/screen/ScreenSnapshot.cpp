@@ -10,6 +10,7 @@
 
 #include "document/Host.h"
 #include "document/LogSink.h"
+#include "document/QuietObjectOwner.h"
 #include "objects/form/ctlKOMAForm.h"
 #include "screen/ctlTolvaScreen.h"
 
@@ -17,24 +18,13 @@ namespace tolva {
 
 namespace {
 
-// What an image's copy talks to: names are never checked, events go
-// nowhere; messages (which a copy has no reason to give) reach the host.
-class ImageOwner : public ObjectOwner {
+// What an image's copy talks to: nothing is asked, nothing heard; messages
+// (which a copy has no reason to give) reach the host.
+class ImageOwner : public QuietObjectOwner {
 public:
     ImageOwner(Host& host, LogSink& log) : host_(host), log_(log) {}
     Host& OwnerHost() override { return host_; }
     LogSink& OwnerLog() override { return log_; }
-    bool IsNewNameUnique(const std::string&, const std::string&) override { return true; }
-    bool OwnerGetObjectID(const std::string&, int&) override { return false; }
-    void ObjectMouseDown(KomaObject&, int, int, double, double) override {}
-    void ObjectMouseMove(KomaObject&, int, int, double, double) override {}
-    void ObjectMouseUp(KomaObject&, int, int, double, double) override {}
-    void ObjectSelected(KomaObject&) override {}
-    void ObjectDeleted(KomaObject&) override {}
-    void ObjectMoved(KomaObject&, int, int) override {}
-    void ObjectResized(KomaObject&, int, int) override {}
-    void ObjectPicChanged(KomaObject&) override {}
-    long long NextStackStamp(bool) override { return 0; }
 
 private:
     Host& host_;
