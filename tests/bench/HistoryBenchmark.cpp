@@ -37,6 +37,7 @@
 #include <string>
 #include <vector>
 
+#include "bench/DesignBenchFolder.h"
 #include "canvas/FontWidths.h"
 #include "cli/StderrHost.h"
 #include "document/LogSink.h"
@@ -151,19 +152,12 @@ int main(int argc, char** argv) {
         return 64;
     }
     const bool check = argc > 2 && std::strcmp(argv[2], "--check") == 0;
-    const fs::path program = fs::canonical("/proc/self/exe");
-    const fs::path work = fs::temp_directory_path() / ("tolva-history-bench-" + std::to_string(getpid()));
-    fs::create_directories(work);
     constexpr int kCheckedSize = 200;
     constexpr int kShownSize = 1000;
-    for (int objects : {kCheckedSize, 10 * kCheckedSize, kShownSize, 10 * kShownSize}) {
-        const std::string command = std::string("'") + argv[1] + "' --write " + std::to_string(objects) +
-                                    " '" + (work / (std::to_string(objects) + ".txt")).string() + "'";
-        if (std::system(command.c_str()) != 0) return 1;
-    }
-    std::ofstream(work / "FORM.BMP", std::ios::binary) << "BM";
-    std::ofstream(work / "ICON.BMP", std::ios::binary) << "BM";
-    fs::current_path(work);
+    // Pictures that do not load: the history copies objects, it shows none.
+    const tolva::testing::DesignBenchFolder folder(
+        "tolva-history-bench", argv[1], {kCheckedSize, 10 * kCheckedSize, kShownSize, 10 * kShownSize}, "BM");
+    if (!folder.Ok()) return 1;
     {
         std::ostringstream boxes;
         tolva::StderrHost host(boxes);
@@ -173,8 +167,8 @@ int main(int argc, char** argv) {
     // One size and ten times it: the figures, and the ratio of a step and
     // its undo; -1 when a design failed.
     auto pair = [](int size) {
-        const Figures small = Measure(std::to_string(size) + ".txt");
-        const Figures large = Measure(std::to_string(10 * size) + ".txt");
+        const Figures small = Measure(tolva::testing::DesignBenchFolder::DesignFile(size));
+        const Figures large = Measure(tolva::testing::DesignBenchFolder::DesignFile(10 * size));
         if (!small.ok || !large.ok) {
             std::printf("a design did not load or keep its steps\n");
             return -1.0;
@@ -200,7 +194,5 @@ int main(int argc, char** argv) {
         if (status == 0) break;
     }
     if (status == 0 && pair(kShownSize) < 0) status = 1;
-    fs::current_path(program.parent_path());
-    fs::remove_all(work);
     return status;
 }

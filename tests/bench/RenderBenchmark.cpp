@@ -36,6 +36,7 @@
 #include "objects/form/ctlKOMAForm.h"
 #include "screen/ScreenFiles.h"
 #include "screen/ctlTolvaScreen.h"
+#include "bench/DesignBenchFolder.h"
 #include "support/BmpBytes.h"
 
 namespace {
@@ -97,40 +98,30 @@ int main(int argc, char** argv) {
         return 64;
     }
     const bool check = argc > 2 && std::strcmp(argv[2], "--check") == 0;
-    const fs::path program = fs::canonical("/proc/self/exe");
-    const fs::path work = fs::temp_directory_path() / ("tolva-render-bench-" + std::to_string(getpid()));
-    fs::create_directories(work);
-
     // The generated designs, and real pictures for them.
     constexpr int kSmallForms = 100;
     constexpr int kLargeForms = 1000;
-    for (int forms : {kSmallForms, kLargeForms}) {
-        const std::string command = std::string("'") + argv[1] + "' --write " +
-                                    std::to_string(forms * 10) + " '" +
-                                    (work / (std::to_string(forms) + ".txt")).string() + "'";
-        if (std::system(command.c_str()) != 0) return 1;
-    }
-    {
-        tolva::testing::BmpSpec picture;
-        picture.width = 10;
-        picture.height = 12;
-        picture.value = [](int x, int y) { return (x + y) % 3 ? 0x404040u : 0xE0E0E0u; };
-        std::ofstream(work / "FORM.BMP", std::ios::binary) << tolva::testing::BmpFile(picture);
-        std::ofstream(work / "ICON.BMP", std::ios::binary) << tolva::testing::BmpFile(picture);
-    }
-    fs::current_path(work);
+    tolva::testing::BmpSpec picture;
+    picture.width = 10;
+    picture.height = 12;
+    picture.value = [](int x, int y) { return (x + y) % 3 ? 0x404040u : 0xE0E0E0u; };
+    const tolva::testing::DesignBenchFolder folder("tolva-render-bench", argv[1],
+                                                   {kSmallForms * 10, kLargeForms * 10},
+                                                   tolva::testing::BmpFile(picture));
+    if (!folder.Ok()) return 1;
+    const auto design = [](int forms) { return tolva::testing::DesignBenchFolder::DesignFile(forms * 10); };
 
     // What the command reads before a load.
     std::ostringstream boxes;
     {
         tolva::StderrHost host(boxes);
         if (!tolva::LoadFontWidths(host)) return 1;
-        tolva::LoadDeviceFonts(program.parent_path().string());
+        tolva::LoadDeviceFonts(folder.ProgramFolder().string());
         if (!tolva::FindDeviceFont("TolvaSmall")) return 1;
     }
 
-    Design small("100.txt", boxes);
-    Design large("1000.txt", boxes);
+    Design small(design(kSmallForms), boxes);
+    Design large(design(kLargeForms), boxes);
     if (!small.Loaded() || !large.Loaded() || small.Forms() != kSmallForms ||
         large.Forms() != kLargeForms) {
         std::fprintf(stderr, "the designs did not load: %s\n", boxes.str().c_str());
@@ -166,13 +157,11 @@ int main(int argc, char** argv) {
     if (status == 0) {
         std::ostringstream out, err;
         const auto t0 = Clock::now();
-        const int code = tolva::RunResCommand({"--quiet", "render", "1000.txt", "command"}, out, err);
+        const int code = tolva::RunResCommand({"--quiet", "render", design(kLargeForms), "command"}, out, err);
         const auto t1 = Clock::now();
         std::printf("tolva-res render of %d forms: %.1f ms, status %d\n", kLargeForms, Ms(t0, t1), code);
         if (code != 0) status = 1;
     }
 
-    fs::current_path(program.parent_path());
-    fs::remove_all(work);
     return status;
 }

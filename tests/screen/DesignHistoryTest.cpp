@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <functional>
 #include <random>
 
 #include "document/Numbers.h"
@@ -117,6 +118,16 @@ protected:
         EXPECT_TRUE(State() == stateAfter) << name << ": state after redo";
     }
 
+    // The object's popup entry chosen, the dialog it opens answered.
+    void EditFromPopup(KomaObject& object, int entry, std::function<bool(DialogModel&)> answer,
+                       const std::string& dialog) {
+        host.popupAnswers = {entry};
+        host.dialogAnswers.push_back(std::move(answer));
+        object.MouseDown(kRightButton, 0, 3, 3);
+        ASSERT_FALSE(host.dialogs.empty());
+        EXPECT_EQ(host.dialogs.back(), dialog);
+    }
+
     bool SetRow(int screenType, const std::string& name, int row, const std::string& value) {
         PropertyArray rows;
         if (!screen.GetObjectPropertiesList(rows, screenType, name)) return false;
@@ -204,40 +215,31 @@ TEST_F(DesignHistoryTest, TheDialogsOfTheObjects) {
     };
     show("FORM_LISTS");
     CheckStep("Edit List PLAIN", [&] {
-        host.popupAnswers = {0};
-        host.dialogAnswers.push_back([](DialogModel& model) {
+        EditFromPopup(*find(type::List, "PLAIN"), 0, [](DialogModel& model) {
             auto& edit = dynamic_cast<ListEditing&>(model);
             edit.Add("Five");
             return edit.Accept("5");
-        });
-        find(type::List, "PLAIN")->MouseDown(kRightButton, 0, 3, 3);
-        ASSERT_EQ(host.dialogs.back(), "frmList");
+        }, "frmList");
     });
     show("FORM_SETTINGS");
     CheckStep("Edit Checkboxes SOUND", [&] {
-        host.popupAnswers = {4};
-        host.dialogAnswers.push_back([](DialogModel& model) {
+        EditFromPopup(*find(type::Checkbox, "SOUND"), 4, [](DialogModel& model) {
             auto& relations = dynamic_cast<CheckboxRelations&>(model);
             const std::vector<bool> ticks = relations.OtherTicks();
             if (ticks.empty()) return false;
             relations.Tick(0, !ticks[0]);
             return true;
-        });
-        find(type::Checkbox, "SOUND")->MouseDown(kRightButton, 0, 5, 5);
-        ASSERT_EQ(host.dialogs.back(), "frmCheckbox");
+        }, "frmCheckbox");
     });
     show("FORM_TABLE");
     CheckStep("Edit Table TABLE_FRUIT", [&] {
-        host.popupAnswers = {1};
-        host.dialogAnswers.push_back([](DialogModel& model) {
+        EditFromPopup(*find(type::Table, "TABLE_FRUIT"), 1, [](DialogModel& model) {
             auto& edit = dynamic_cast<TableEditing&>(model);
             edit.SelectTableCell(1, 1);
             edit.InsertEditorRow(1);
             // Cancel: the row stays in the table.
             return false;
-        });
-        find(type::Table, "TABLE_FRUIT")->MouseDown(kRightButton, 0, 5, 5);
-        ASSERT_EQ(host.dialogs.back(), "frmTable");
+        }, "frmTable");
     });
 }
 

@@ -10,6 +10,7 @@
 namespace tolva {
 
 class ctlTolvaScreen;
+class KomaObject;
 class ScreenPainter;
 
 struct FormPicturesRequest {
@@ -49,7 +50,7 @@ private:
     // is made once.
     struct Canvas;
     std::unique_ptr<Canvas> canvas_;
-    std::vector<std::vector<class KomaObject*>> objects_;
+    std::vector<std::vector<KomaObject*>> objects_;
 };
 
 // The file a form's picture goes to inside the folder: the form's name with
